@@ -1,0 +1,62 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// What the system asks of a file system. All paths are in drive or server form, the long-path prefix allowed;
+/// host paths of any length work. Every operation may be called from several threads at once.
+namespace platform {
+
+/// What the file system tells of one entry. Times are 100 ns since 1601 UTC, 0 when unknown (the birth time on a
+/// file system without one, a time that doesn't fit); size in bytes, 0 for a folder or link.
+/// A link is a symbolic link: its times are its own, `is_folder` tells what it points to (false when dangling).
+struct FileAttributes {
+    std::int64_t modified = 0, created = 0, accessed = 0;
+    std::uint64_t size = 0;
+    bool is_folder = false, is_link = false;
+};
+
+/// Empty when the path does not exist or may not be read.
+std::optional<FileAttributes> file_attributes(std::u16string_view path);
+
+/// Calls `visit` for each entry but "." and "..", in the file system's order. An unreadable folder has no entries;
+/// an entry that vanishes during the read is left out. What `visit` throws leaves this operation, nothing leaks.
+void for_each_entry(std::u16string_view folder,
+                    const std::function<void(std::u16string name, const FileAttributes&)>& visit);
+
+/// Names of the disk shares of a server (no backslashes in `server`): the folders in `/net/server`, links to
+/// folders included, in the file system's order. Empty when there is no such server.
+std::vector<std::u16string> server_shares(std::u16string_view server);
+
+/// The final path behind a link, all links on the way resolved, without the long-path prefix; a target below
+/// `/net/server/share` is given in server form when `path` was in server form, else in drive form. Empty when
+/// `path` is no link, its target is gone, or the links lead in a circle.
+std::u16string link_target(std::u16string_view path);
+
+/// True when the path leads to something, links followed: a dangling link does not exist.
+bool exists(std::u16string_view path);
+
+/// Creates the folder and its missing parents. Throws boost::filesystem::filesystem_error with the operation name
+/// "create_directories".
+void create_directories(std::u16string_view folder);
+
+/// The whole content of a file. When it can't be opened or read the result is empty and `error` holds the system's
+/// English words for the reason.
+std::optional<std::string> read_file(std::u16string_view path, std::string& error);
+
+/// Writes `content` to `path`, truncating what was there, and brings it to the disk before it returns. False on any
+/// failure; the file may then be there in part.
+bool write_file(std::u16string_view path, std::string_view content);
+
+/// Gives the file `from` the name `to` in one step, replacing a file of that name, and brings the folder's change to
+/// the disk. False when the name could not be changed; both files are then as they were.
+bool replace_file(std::u16string_view from, std::u16string_view to);
+
+/// Removes a file; silent when it can't.
+void remove_file(std::u16string_view path);
+
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/local_time.h"
+
+#include <string>
+#include <string_view>
+
+/// Texts in the user's locale (LC_ALL, LC_TIME, LC_NUMERIC, LANG), read once a process. Safe from any thread.
+namespace platform {
+
+enum class DateStyle { Short, Long };
+
+/// The locale's short or long date. Empty when the date doesn't exist.
+std::u16string date_text(const BrokenDownTime& time, DateStyle style);
+
+/// The locale's time of day with seconds, without a zone. Empty when the time doesn't exist.
+std::u16string time_text(const BrokenDownTime& time);
+
+/// A date by a picture: d dd (day), ddd dddd (weekday's short and full name), M MM, MMM MMMM (month's names, in the
+/// form that goes with a day number when the picture has one), y yy (year of the century), yyyy (whole year), g gg
+/// (era; nothing here, as the calendar's own years have none). Quoted text stands as it is, two quotes for one;
+/// any other character too. Source: "Day, Month, Year, and Era Format Pictures", Windows documentation.
+std::u16string date_by_picture(const BrokenDownTime& time, std::u16string_view picture);
+
+/// A time by a picture: h hh (12 hours), H HH (24 hours), m mm, s ss, t (first character of the day half's name),
+/// tt (the whole name). Quotes as in `date_by_picture`. Source: "Hour, Minute, and Second Format Pictures",
+/// Windows documentation.
+std::u16string time_by_picture(const BrokenDownTime& time, std::u16string_view picture);
+
+/// The separator between groups of three digits; 15 units at the most, can be empty.
+const std::u16string& thousands_separator();
+
+}
