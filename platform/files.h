@@ -12,7 +12,7 @@
 namespace platform {
 
 /// What the file system tells of one entry. Times are 100 ns since 1601 UTC, 0 when unknown (the birth time on a
-/// file system without one, a time that doesn't fit); size in bytes, 0 for a folder or link.
+/// file system without one, a time before 1601 or too late for the count); size in bytes, 0 for a folder or link.
 /// A link is a symbolic link: its times are its own, `is_folder` tells what it points to (false when dangling).
 struct FileAttributes {
     std::int64_t modified = 0, created = 0, accessed = 0;
@@ -24,7 +24,8 @@ struct FileAttributes {
 std::optional<FileAttributes> file_attributes(std::u16string_view path);
 
 /// Calls `visit` for each entry but "." and "..", in the file system's order. An unreadable folder has no entries;
-/// an entry that vanishes during the read is left out. What `visit` throws leaves this operation, nothing leaks.
+/// an entry that vanishes during the read is left out; of one whose attributes may not be read only the type is told.
+/// What `visit` throws leaves this operation, nothing leaks.
 void for_each_entry(std::u16string_view folder,
                     const std::function<void(std::u16string name, const FileAttributes&)>& visit);
 
@@ -40,12 +41,12 @@ std::u16string link_target(std::u16string_view path);
 /// True when the path leads to something, links followed: a dangling link does not exist.
 bool exists(std::u16string_view path);
 
-/// Creates the folder and its missing parents. Throws boost::filesystem::filesystem_error with the operation name
-/// "create_directories".
+/// Creates the folder and its missing parents; a folder that is there is fine. Throws
+/// boost::filesystem::filesystem_error with the operation name "create_directories" and the host path as path1.
 void create_directories(std::u16string_view folder);
 
-/// The whole content of a file. When it can't be opened or read the result is empty and `error` holds the system's
-/// English words for the reason.
+/// The whole content of a file or pipe. When it can't be opened or read the result is empty and `error` holds the
+/// system's English words for the reason; otherwise `error` stays as it was.
 std::optional<std::string> read_file(std::u16string_view path, std::string& error);
 
 /// Writes `content` to `path`, truncating what was there, and brings it to the disk before it returns. False on any

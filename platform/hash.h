@@ -17,7 +17,8 @@ public:
     virtual ~StreamHash() = default;
     /// False when the library failed; the hash is then of no use.
     virtual bool update(std::span<const std::byte> bytes) = 0;
-    /// The digest in its standard byte order (RFC 1321, FIPS 180-4); empty when the library failed.
+    /// The digest in its standard byte order (RFC 1321, FIPS 180-4); empty when the library failed or at a second
+    /// call.
     virtual std::vector<std::byte> finish() = 0;
 };
 

@@ -3,15 +3,15 @@
 #include <optional>
 #include <string>
 
-/// Folders in drive form, without a trailing backslash. A variable that holds no absolute path is ignored, as the
-/// XDG Base Directory Specification asks.
+/// Folders in drive form, without a trailing backslash (the host's root is `C:`). A variable that holds no absolute
+/// path is ignored, as the XDG Base Directory Specification asks.
 namespace platform {
 
 /// The user's own settings: $XDG_CONFIG_HOME, else ~/.config (home from $HOME, else the user database).
 /// Empty when neither can be told.
 std::optional<std::u16string> user_settings_folder();
 
-/// Settings for all users: the first of $XDG_CONFIG_DIRS, else /etc/xdg.
+/// Settings for all users: the first absolute path of $XDG_CONFIG_DIRS, else /etc/xdg. Never empty here.
 std::optional<std::u16string> machine_settings_folder();
 
 /// Where the running program's file lies. Throws std::runtime_error when the system doesn't tell.

@@ -18,12 +18,14 @@ std::u16string time_text(const BrokenDownTime& time);
 
 /// A date by a picture: d dd (day), ddd dddd (weekday's short and full name), M MM, MMM MMMM (month's names, in the
 /// form that goes with a day number when the picture has one), y yy (year of the century), yyyy (whole year), g gg
-/// (era; nothing here, as the calendar's own years have none). Quoted text stands as it is, two quotes for one;
-/// any other character too. Source: "Day, Month, Year, and Era Format Pictures", Windows documentation.
+/// (era; nothing here, as the calendar's own years have none). A longer run counts as the longest form, yyy as yyyy.
+/// Numbers have ASCII digits. Text in single quotes stands as it is, with two quotes in it for one; any other
+/// character too. Empty when the date doesn't exist; the weekday is that of the date, not of `day_of_week`.
+/// Source: "Day, Month, Year, and Era Format Pictures", Windows documentation.
 std::u16string date_by_picture(const BrokenDownTime& time, std::u16string_view picture);
 
 /// A time by a picture: h hh (12 hours), H HH (24 hours), m mm, s ss, t (first character of the day half's name),
-/// tt (the whole name). Quotes as in `date_by_picture`. Source: "Hour, Minute, and Second Format Pictures",
+/// tt (the whole name). All else as in `date_by_picture`. Source: "Hour, Minute, and Second Format Pictures",
 /// Windows documentation.
 std::u16string time_by_picture(const BrokenDownTime& time, std::u16string_view picture);
 

@@ -8,11 +8,14 @@
 /// No other drive exists.
 namespace platform {
 
-/// The bytes that open `path` on the host; the long-path prefix is allowed. Empty for a path that names nothing
-/// here: another drive, or neither drive nor server form. The result can be longer than PATH_MAX.
+/// The bytes that open `path` on the host; the long-path prefix is allowed, `C:` alone is the root too. Empty for a
+/// path that names nothing here: another drive, neither drive nor server form, or a slash or U+0000 in it. Nothing is
+/// normalised. The result can be longer than PATH_MAX.
 std::string to_host_path(std::u16string_view path);
 
 /// Drive form of an absolute host path. Every byte string has its own result, which `to_host_path` turns back.
+/// Below a root that a test has set the root's own part is left out; a path outside it has no form of its own and
+/// keeps all its parts.
 std::u16string from_host_path(std::string_view host_path);
 
 /// A host file name as it travels inside the system: UTF-8 decoded, a byte that is no valid UTF-8 as
@@ -20,7 +23,8 @@ std::u16string from_host_path(std::string_view host_path);
 /// mapping can be undone.
 std::u16string from_host_name(std::string_view name);
 
-/// Appends the bytes that `from_host_name` decoded to `name`.
+/// Appends the bytes that `from_host_name` decoded to `name`. A surrogate that it never yields, one without its
+/// partner that stands for no byte, is appended as U+FFFD.
 void append_host_name(std::string& bytes, std::u16string_view name);
 
 /// Replaces, unit for unit, what only stands for odd bytes of a host name: U+F05C becomes `\`, a surrogate

@@ -1,0 +1,89 @@
+#include "engine/commands/checksum_pool.h"
+
+#include "engine/checksums/file_checksum.h"
+#include "engine/commands/parallel.h"
+#include "engine/items/mv_item_folder.h"
+#include "engine/parts/item_progress_sink.h"
+
+#include <atomic>
+#include <unordered_set>
+#include <vector>
+
+namespace {
+
+struct Job {
+    const MVItemBase* file = nullptr;
+    ChecksumType type{};
+    std::u16string text = {};
+};
+
+class JobList
+{
+public:
+    explicit JobList(const std::set<ChecksumType>& types) : types_(types) {}
+
+    void add_file(const MVItemBase& file)
+    {
+        // A file can be selected and stand below a selected folder as well.
+        if (!seen_.insert(&file).second)
+            return;
+        for (const ChecksumType type : types_)
+            if (file.cached_checksum(type).empty())
+                jobs_.push_back({&file, type});
+    }
+
+    void add_files_below(const MVItemFolder& folder)
+    {
+        for (const auto& child : folder.children()) {
+            if (child->is_folder())
+                add_files_below(static_cast<const MVItemFolder&>(*child));
+            else
+                add_file(*child);
+        }
+    }
+
+    std::vector<Job>& jobs() { return jobs_; }
+
+private:
+    const std::set<ChecksumType>& types_;
+    std::unordered_set<const MVItemBase*> seen_;
+    std::vector<Job> jobs_;
+};
+
+void compute(std::vector<Job>& jobs, ItemProgressSink& sink)
+{
+    std::atomic<std::uint64_t> next = 0;
+    run_parallel(thread_count(jobs.size()), [&](std::size_t) {
+        while (!sink.is_cancelled()) {
+            const std::uint64_t index = next.fetch_add(1);
+            if (index >= jobs.size())
+                return;
+            Job& job = jobs[index];
+            const std::u16string path = job.file->full_path();
+            sink.report_item(path);
+            job.text = file_checksum(path, job.type, [&] { return sink.is_cancelled(); });
+        }
+    });
+}
+
+}
+
+void precache_checksums(std::span<const std::shared_ptr<MVItemBase>> items, const std::set<ChecksumType>& types,
+                        bool uses_folder_data, ItemProgressSink& sink)
+{
+    JobList list(types);
+    for (const auto& item : items) {
+        if (!item->is_folder())
+            list.add_file(*item);
+        else if (const auto& folder = static_cast<const MVItemFolder&>(*item);
+                 uses_folder_data && folder.children_loaded())
+            list.add_files_below(folder);
+    }
+    if (list.jobs().empty())
+        return;
+    sink.report_status(u"Computing checksums...");
+    compute(list.jobs(), sink);
+    for (Job& job : list.jobs())
+        if (!job.text.empty())
+            job.file->store_checksum(job.type, std::move(job.text));
+}

@@ -1,0 +1,126 @@
+#include "engine/commands/folder_walk.h"
+
+#include "engine/commands/parallel.h"
+#include "engine/filters/item_filter.h"
+#include "engine/items/mv_items_set.h"
+#include "engine/parts/item_progress_sink.h"
+
+#include <algorithm>
+#include <atomic>
+
+namespace {
+
+using Items = std::vector<std::shared_ptr<MVItemBase>>;
+using Folders = std::vector<const MVItemFolder*>;
+
+class Expansion
+{
+public:
+    Expansion(std::int32_t max_depth, ItemProgressSink& sink, const ItemFilter* folder_filter)
+        : max_depth_(max_depth), sink_(sink), folder_filter_(folder_filter)
+    {}
+
+    void add(const std::shared_ptr<MVItemBase>& item)
+    {
+        if (item->is_folder())
+            add_files_below(static_cast<const MVItemFolder&>(*item), 1);
+        else
+            files_.push_back(item);
+    }
+
+    Items take() { return std::move(files_); }
+
+private:
+    /// False when the sink cancelled.
+    bool add_files_below(const MVItemFolder& folder, int level)
+    {
+        if (!folder.children_loaded()) {
+            sink_.report_item(folder.full_path());
+            folder.load_children();
+        }
+        for (const auto& child : folder.children()) {
+            if (!child->is_folder()) {
+                files_.push_back(child);
+            } else {
+                if (child->is_link() || !passes(*child))
+                    continue;
+                if (enters_below(level) && !add_files_below(static_cast<const MVItemFolder&>(*child), level + 1))
+                    return false;
+            }
+            if (sink_.is_cancelled())
+                return false;
+        }
+        return true;
+    }
+
+    bool enters_below(int level) const { return (max_depth_ == 0 || level < max_depth_) && level < max_walk_level; }
+
+    bool passes(const MVItemBase& folder) const { return !folder_filter_ || folder_filter_->passes(folder.name()); }
+
+    std::int32_t max_depth_;
+    ItemProgressSink& sink_;
+    const ItemFilter* folder_filter_;
+    Items files_;
+};
+
+/// Leaves the folders that have yet to be read, each once. A drive selected twice is one node, and a selected folder
+/// can be found below another one as well; two threads must never read the same.
+void keep_unread(Folders& folders)
+{
+    std::erase_if(folders, [](const MVItemFolder* folder) { return folder->children_loaded(); });
+    std::ranges::sort(folders);
+    folders.erase(std::ranges::unique(folders).begin(), folders.end());
+}
+
+/// Reads the folders on a pool of threads and returns the unread folders found in them.
+Folders read_level(const Folders& folders, ItemProgressSink& sink)
+{
+    const std::size_t threads = thread_count(folders.size());
+    std::vector<Folders> found(threads);
+    std::atomic<std::uint64_t> next = 0;
+    run_parallel(threads, [&](std::size_t thread) {
+        while (!sink.is_cancelled()) {
+            const std::uint64_t index = next.fetch_add(1);
+            if (index >= folders.size())
+                return;
+            const MVItemFolder& folder = *folders[index];
+            sink.report_item(folder.full_path());
+            folder.load_children();
+            for (const auto& child : folder.children())
+                if (child->is_folder() && !child->is_link())
+                    found[thread].push_back(static_cast<const MVItemFolder*>(child.get()));
+        }
+    });
+    Folders next_level;
+    for (const Folders& of_thread : found)
+        next_level.insert(next_level.end(), of_thread.begin(), of_thread.end());
+    return next_level;
+}
+
+}
+
+Items expand_files(const MVItemsSet& selection, std::int32_t max_depth, ItemProgressSink& sink,
+                   const ItemFilter* folder_filter)
+{
+    Expansion expansion(max_depth, sink, folder_filter);
+    for (const auto& item : selection.items()) {
+        expansion.add(item);
+        if (sink.is_cancelled())
+            break;
+    }
+    return expansion.take();
+}
+
+void precache_folders(std::span<const std::shared_ptr<MVItemBase>> items, ItemProgressSink& sink)
+{
+    Folders folders;
+    for (const auto& item : items)
+        if (item->is_folder())
+            folders.push_back(static_cast<const MVItemFolder*>(item.get()));
+    for (int pass = 0; pass < max_walk_level; ++pass) {
+        keep_unread(folders);
+        if (folders.empty() || sink.is_cancelled())
+            return;
+        folders = read_level(folders, sink);
+    }
+}

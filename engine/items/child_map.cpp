@@ -1,0 +1,45 @@
+#include "engine/items/child_map.h"
+
+#include "engine/text/letters.h"
+
+#include <algorithm>
+
+bool ChildMap::key_less(std::u16string_view left, std::u16string_view right)
+{
+    const std::size_t common = std::min(left.size(), right.size());
+    for (std::size_t i = 0; i < common; ++i) {
+        if (left[i] == right[i])
+            continue;
+        const char16_t left_unit = to_lower(left[i]), right_unit = to_lower(right[i]);
+        if (left_unit != right_unit)
+            return left_unit < right_unit;
+    }
+    return left.size() < right.size();
+}
+
+bool ChildMap::ByKey::operator()(const std::shared_ptr<MVItemBase>& left,
+                                 const std::shared_ptr<MVItemBase>& right) const
+{
+    return key_less(left->name(), right->name());
+}
+
+bool ChildMap::ByKey::operator()(const std::shared_ptr<MVItemBase>& left, std::u16string_view right) const
+{
+    return key_less(left->name(), right);
+}
+
+bool ChildMap::ByKey::operator()(std::u16string_view left, const std::shared_ptr<MVItemBase>& right) const
+{
+    return key_less(left, right->name());
+}
+
+std::shared_ptr<MVItemBase> ChildMap::find(std::u16string_view name) const
+{
+    const auto found = items_.find(name);
+    return found == items_.end() ? nullptr : *found;
+}
+
+MVItemBase& ChildMap::insert(const std::shared_ptr<MVItemBase>& item)
+{
+    return **items_.insert(items_.end(), item);
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "engine/items/child_map.h"
+#include "engine/items/mv_item_base.h"
+
+#include <atomic>
+
+class MVItemFolder final : public MVItemBase
+{
+public:
+    MVItemFolder(MVItemInfo info, const MVItemFolder* parent) : MVItemBase(std::move(info), parent) {}
+
+    bool is_folder() const override { return true; }
+
+    /// Reads the directory, the shares for a server alone, at most once: an unreadable folder counts as read and
+    /// empty. A child that was there before takes over the read's times and size. No two threads may be in here for
+    /// one folder, nor may another thread use the children meanwhile.
+    void load_children() const;
+
+    /// May be asked from any thread; true from the beginning of the read on.
+    bool children_loaded() const { return children_loaded_.load(std::memory_order_acquire); }
+
+    const ChildMap& children() const { return children_; }
+
+    /// Enters an item whose parent this is. A child with the item's key stays in its place.
+    void insert(const std::shared_ptr<MVItemBase>& item) { children_.insert(item); }
+
+private:
+    void merge(std::vector<std::shared_ptr<MVItemBase>> entries) const;
+
+    /// Filled on demand, through items that are const to whoever writes a text.
+    mutable ChildMap children_;
+    mutable std::atomic<bool> children_loaded_ = false;
+};

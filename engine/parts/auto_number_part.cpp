@@ -1,0 +1,29 @@
+#include "engine/parts/auto_number_part.h"
+
+#include "engine/parts/text_run_context.h"
+#include "engine/text/json_access.h"
+#include "engine/text/number_grouping.h"
+
+ItemPartAutoNumber::ItemPartAutoNumber(const boost::json::object& json)
+    : start_(json_access::required_uint64(json, "start")), step_(json_access::required_uint64(json, "step")),
+      add_leading_zeros_(json.contains("nDigits")), n_digits_(json_access::optional_count(json, "nDigits", 0)),
+      add_thousands_separator_(json_access::optional_bool(json, "addThousandsSeparator", false))
+{}
+
+boost::json::object ItemPartAutoNumber::to_json() const
+{
+    boost::json::object json{{"start", start_}, {"step", step_}, {"addThousandsSeparator", add_thousands_separator_}};
+    if (add_leading_zeros_)
+        json["nDigits"] = n_digits_;
+    return json;
+}
+
+void ItemPartAutoNumber::append_text(TextRunContext& context, const MVItemBase&, int) const
+{
+    std::u16string text = decimal_text(context.counter++ * step_ + start_);
+    if (add_leading_zeros_ && n_digits_ > 0 && text.size() < static_cast<std::size_t>(n_digits_))
+        text.insert(0, static_cast<std::size_t>(n_digits_) - text.size(), u'0');
+    if (add_thousands_separator_)
+        text = group_digits(text);
+    context.output.append(text);
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <locale>
+
+/// Classes and case of single UTF-16 units. The classes are Unicode's (a surrogate is in none of them); case exists
+/// for ASCII letters only. Nothing here depends on the process's locale, and all of it is safe from any thread.
+
+/// The rules below as a C++ locale, for libraries that take one.
+const std::locale& letters_locale();
+
+constexpr char16_t to_lower(char16_t unit)
+{
+    return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 32) : unit;
+}
+
+constexpr char16_t to_upper(char16_t unit)
+{
+    return unit >= u'a' && unit <= u'z' ? static_cast<char16_t>(unit - 32) : unit;
+}
+
+constexpr bool is_ascii_letter(char16_t unit)
+{
+    return to_lower(unit) >= u'a' && to_lower(unit) <= u'z';
+}
+
+/// ASCII digits only: no other digit counts as one in any C locale.
+constexpr bool is_digit(char16_t unit)
+{
+    return unit >= u'0' && unit <= u'9';
+}
+
+bool is_letter(char16_t unit);
+bool is_lower(char16_t unit);
+bool is_upper(char16_t unit);
+
+/// Letters and digits; digits of other scripts count.
+bool is_alphanumeric(char16_t unit);

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+/// `from_host_name` for whole paths too: a slash becomes `slash`.
+std::u16string decode_host_bytes(std::string_view bytes, char16_t slash);
+
+/// `append_host_name` for whole paths too: a backslash becomes `backslash`.
+void append_host_bytes(std::string& bytes, std::u16string_view units, char backslash);
+
+}

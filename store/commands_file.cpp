@@ -1,0 +1,185 @@
+#include "store/commands_file.h"
+
+#include "engine/commands/vellumark_command.h"
+#include "platform/files.h"
+#include "store/command_factory.h"
+#include "store/json_file_reader.h"
+#include "store/mv_config.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace json = boost::json;
+
+namespace {
+
+constexpr std::string_view menu_key = "menuCommands", library_key = "commandsLibrary",
+                           presets_key = "extensionsPresets";
+
+CommandList read_list(const json::array& array)
+{
+    CommandList list;
+    for (const json::value& element : array)
+        if (const json::object* object = element.if_object())
+            if (auto command = command_from_json(*object))
+                list.push_back(std::move(command));
+    return list;
+}
+
+CommandList read_menu(const json::object& file)
+{
+    const json::value* menu = file.if_contains(menu_key);
+    if (!menu)
+        throw std::runtime_error("JSON value missing: " + std::string(menu_key));
+    if (!menu->is_array())
+        throw std::runtime_error("JSON value not an array: " + std::string(menu_key));
+    return read_list(menu->get_array());
+}
+
+std::vector<ExtensionsPreset> load_default_presets()
+{
+    std::vector<ExtensionsPreset> presets;
+    const std::u16string path = MVConfig::get_global().path(FileKind::DefaultPresets);
+    if (!platform::exists(path))
+        return presets;
+    const json::value value = read_json_file(path);
+    if (const json::array* array = value.if_array())
+        read_presets(*array, presets);
+    return presets;
+}
+
+std::vector<ExtensionsPreset> read_presets_of(const json::object& file)
+{
+    const json::value* value = file.if_contains(presets_key);
+    if (!value)
+        return load_default_presets();
+    std::vector<ExtensionsPreset> presets;
+    if (const json::array* array = value->if_array())
+        read_presets(*array, presets);
+    return presets;
+}
+
+/// Files from before there was a library kept everything in one list and hid what the menu doesn't show. Built-in
+/// commands have no place in a library.
+void move_hidden_commands(StoredCommands& commands)
+{
+    const auto belongs_in_menu = [](const auto& command) {
+        return command->show_in_menu() || command->type() != CommandType::Vellumark;
+    };
+    const auto hidden = std::ranges::stable_partition(commands.menu, belongs_in_menu);
+    commands.library.assign(hidden.begin(), hidden.end());
+    commands.menu.erase(hidden.begin(), hidden.end());
+}
+
+void set_shown(const CommandList& list, bool shown)
+{
+    for (const auto& command : list)
+        command->set_show_in_menu(shown);
+}
+
+void update_from_preset(VellumarkCommand& command, const std::vector<ExtensionsPreset>& presets)
+{
+    const auto found = std::ranges::find(presets, command.file_filter_preset_uuid(), &ExtensionsPreset::uuid);
+    if (found == presets.end()) {
+        command.set_file_filter_preset_uuid({});
+        return;
+    }
+    ItemFilter filter = command.file_filter();
+    filter.set_filter_pattern(found->extensions());
+    command.set_file_filter(std::move(filter));
+}
+
+void update_from_presets(const CommandList& list, const std::vector<ExtensionsPreset>& presets)
+{
+    for (const auto& entry : list)
+        if (auto* command = dynamic_cast<VellumarkCommand*>(entry.get());
+            command && !command->file_filter_preset_uuid().empty())
+            update_from_preset(*command, presets);
+}
+
+json::array list_to_json(const CommandList& list)
+{
+    json::array array;
+    for (const auto& command : list)
+        array.push_back(command->to_json());
+    return array;
+}
+
+json::array menu_to_json(const CommandList& menu)
+{
+    json::array array = list_to_json(menu);
+    for (json::value& element : array)
+        element.as_object()["showInMenu"] = true;
+    return array;
+}
+
+/// Replaces the file at `path`; the temporary file is gone afterwards, on success and on failure.
+void write_in_one_step(const std::u16string& path, std::string_view content)
+{
+    const std::u16string temporary = path + u"+";
+    if (!platform::write_file(temporary, content)) {
+        platform::remove_file(temporary);
+        throw std::runtime_error("Failed to write commands to temporary file.");
+    }
+    if (!platform::replace_file(temporary, path)) {
+        platform::remove_file(temporary);
+        throw std::runtime_error("Failed to replace commands file.");
+    }
+}
+
+}
+
+namespace commands_file {
+
+StoredCommands read(std::u16string_view path)
+{
+    // Default presets are asked for later, but without a configuration nothing is read at all.
+    MVConfig::get_global();
+    if (!platform::exists(path))
+        throw JsonFileReaderException(std::u16string(path), JsonFileStatus::MissingFile);
+    const json::value value = read_json_file(path);
+    const json::object* file = value.if_object();
+    if (!file)
+        throw JsonFileReaderException(std::u16string(path), JsonFileStatus::InvalidData,
+                                      "Top-level JSON value is not an object.");
+    StoredCommands commands;
+    commands.menu = read_menu(*file);
+    commands.presets = read_presets_of(*file);
+    if (const json::value* library = file->if_contains(library_key)) {
+        if (const json::array* array = library->if_array())
+            commands.library = read_list(*array);
+        set_shown(commands.menu, true);
+        set_shown(commands.library, false);
+    } else {
+        move_hidden_commands(commands);
+    }
+    return commands;
+}
+
+StoredCommands load_defaults()
+{
+    return read(MVConfig::get_global().path(FileKind::DefaultCommands));
+}
+
+StoredCommands load()
+{
+    const std::u16string path = MVConfig::get_global().path(FileKind::UserCommands);
+    StoredCommands commands;
+    if (platform::exists(path))
+        commands = read(path);
+    return commands.menu.empty() ? load_defaults() : commands;
+}
+
+void save(const CommandList& menu, const CommandList& library, const std::vector<ExtensionsPreset>& presets)
+{
+    update_from_presets(menu, presets);
+    update_from_presets(library, presets);
+    const json::object file{{menu_key, menu_to_json(menu)},
+                            {library_key, list_to_json(library)},
+                            {presets_key, presets_to_json(presets)}};
+    const std::u16string path = MVConfig::get_global().path(FileKind::UserCommands);
+    create_parent_directories(path);
+    write_in_one_step(path, json::serialize(file));
+}
+
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "engine/commands/mv_command_base.h"
+#include "engine/filters/extensions_preset.h"
+
+#include <memory>
+#include <string_view>
+#include <vector>
+
+using CommandList = std::vector<std::shared_ptr<MVCommandBase>>;
+
+/// All that a commands file holds.
+struct StoredCommands {
+    CommandList menu;    ///< as the context menu shows them
+    CommandList library; ///< further ones
+    std::vector<ExtensionsPreset> presets;
+};
+
+/// Reads and writes the user's commands, always through the installed MVConfig. Main thread only. A file that can't
+/// be used throws JsonFileReaderException or std::exception, and nothing of it is used.
+namespace commands_file {
+
+/// The user's commands; those of the default file when the user's file is missing or has an empty menu. A broken
+/// user's file throws: the defaults don't stand in for it.
+StoredCommands load();
+
+/// The default file alone.
+StoredCommands load_defaults();
+
+/// One file. Commands of unknown type are left out, presets that the file doesn't know come from the default
+/// presets, and in a file from before there was a library the hidden file-name commands move there.
+StoredCommands read(std::u16string_view path);
+
+/// Writes the user's file by way of a temporary file beside it, so that the old file stays whole until the new one
+/// is. File-name commands are brought up to date against `presets` first: a filter that follows a preset takes its
+/// extensions, and a link to a preset that is gone is dropped. Throws std::runtime_error "Failed to write commands to
+/// temporary file." or "Failed to replace commands file." or boost::filesystem::filesystem_error for the folder;
+/// the old file is then as it was.
+void save(const CommandList& menu, const CommandList& library, const std::vector<ExtensionsPreset>& presets);
+
+}

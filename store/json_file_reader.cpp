@@ -1,0 +1,45 @@
+#include "store/json_file_reader.h"
+
+#include "engine/text/utf.h"
+#include "platform/files.h"
+
+namespace {
+
+const char* words_of(JsonFileStatus status)
+{
+    switch (status) {
+    case JsonFileStatus::MissingFile: return "Missing File";
+    case JsonFileStatus::ReadError: return "Read Error";
+    case JsonFileStatus::InvalidJson: return "Invalid JSON";
+    case JsonFileStatus::InvalidData: return "Invalid Data";
+    }
+    return "Unknown Status";
+}
+
+}
+
+JsonFileReaderException::JsonFileReaderException(std::u16string path, JsonFileStatus status, std::string detail)
+    : path_(std::move(path)), status_(status), detail_(std::move(detail)),
+      message_(to_utf8(path_) + ": " + words_of(status))
+{
+    if (!detail_.empty())
+        message_ += " (" + detail_ + ")";
+}
+
+boost::json::value read_json_file(std::u16string_view path)
+{
+    std::string reason;
+    const auto content = platform::read_file(path, reason);
+    if (!content)
+        throw JsonFileReaderException(std::u16string(path), JsonFileStatus::ReadError, reason);
+    boost::json::error_code error;
+    boost::json::value value = boost::json::parse(*content, error);
+    if (error)
+        throw JsonFileReaderException(std::u16string(path), JsonFileStatus::InvalidJson, error.message());
+    return value;
+}
+
+void create_parent_directories(std::u16string_view path)
+{
+    platform::create_directories(path.substr(0, path.rfind(u'\\') + 1));
+}

@@ -1,0 +1,114 @@
+#include "platform/file_reader.h"
+#include "platform/files.h"
+#include "support/temp_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <array>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <thread>
+
+namespace {
+
+std::string content_of(const std::string& host_path)
+{
+    std::ostringstream text;
+    text << std::ifstream(host_path, std::ios::binary).rdbuf();
+    return text.str();
+}
+
+TEST(FileContent, ReadsWholeFilesAndPipes)
+{
+    const TempFolder folder;
+    std::string error = "untouched";
+    for (const std::size_t size : {0u, 1u, 65'535u, 65'536u, 65'537u, 1'000'000u}) {
+        const std::string content(size, 'x');
+        EXPECT_EQ(platform::read_file(folder.write("file", content), error), content);
+        mkfifo(folder.host("fifo").c_str(), 0600);
+        std::thread writer([&] { std::ofstream(folder.host("fifo")) << content; });
+        EXPECT_EQ(platform::read_file(folder.path("fifo"), error), content);
+        writer.join();
+    }
+    EXPECT_FALSE(platform::read_file(u"C:\\proc\\self\\status", error).value_or("").empty());
+    EXPECT_EQ(error, "untouched");
+
+    folder.make_link("loop", "loop");
+    for (const auto& [name, words] : {std::pair{"", "Is a directory"},
+                                      {"gone", "No such file or directory"},
+                                      {"file/x", "Not a directory"},
+                                      {"loop", "Too many levels of symbolic links"}}) {
+        EXPECT_FALSE(platform::read_file(folder.path(name), error));
+        EXPECT_EQ(error, words);
+    }
+}
+
+TEST(FileContent, WritesAndReplaces)
+{
+    const TempFolder folder;
+    folder.write("file", "a longer old content");
+    EXPECT_TRUE(platform::write_file(folder.path("file"), "new"));
+    EXPECT_EQ(content_of(folder.host("file")), "new");
+    const mode_t mask = umask(027);
+    EXPECT_TRUE(platform::write_file(folder.path("file+"), std::string(3'000'000, 'y')));
+    umask(mask);
+    EXPECT_EQ(std::filesystem::status(folder.host("file+")).permissions(), std::filesystem::perms(0640));
+    EXPECT_TRUE(platform::replace_file(folder.path("file+"), folder.path("file")));
+    EXPECT_EQ(content_of(folder.host("file")), std::string(3'000'000, 'y'));
+    EXPECT_FALSE(std::filesystem::exists(folder.host("file+")));
+}
+
+TEST(FileContent, FailuresLeaveFilesAsTheyWere)
+{
+    const TempFolder folder;
+    folder.write("file", "old");
+    folder.write("sub/inside", "kept");
+    mkfifo(folder.host("fifo").c_str(), 0600);
+    for (const char* name : {"", "sub", "gone/x", "file/x", "fifo"})
+        EXPECT_FALSE(platform::write_file(folder.path(name), "x")) << name;
+    EXPECT_FALSE(platform::write_file(u"C:\\dev\\full", "x"));
+    EXPECT_FALSE(platform::write_file(u"D:\\x", "x"));
+    for (const auto& [from, to] : {std::pair{"file", "sub"}, {"gone", "file"}, {"file", "gone/x"}})
+        EXPECT_FALSE(platform::replace_file(folder.path(from), folder.path(to)));
+    for (const char* name : {"sub", "gone", "file/x"})
+        platform::remove_file(folder.path(name));
+    EXPECT_EQ(content_of(folder.host("file")) + content_of(folder.host("sub/inside")), "oldkept");
+    platform::remove_file(folder.path("fifo"));
+    EXPECT_FALSE(std::filesystem::exists(folder.host("fifo")));
+}
+
+TEST(FileContent, ReaderFillsItsBuffer)
+{
+    const TempFolder folder;
+    folder.write("file", "0123456789");
+    platform::FileReader reader(folder.make_link("link", "file"));
+    ASSERT_TRUE(reader.is_open());
+    std::array<std::byte, 8> buffer;
+    EXPECT_EQ(reader.read(buffer), 8u);
+    EXPECT_EQ(buffer[7], std::byte{'7'});
+    std::filesystem::remove(folder.host("file"));
+    EXPECT_EQ(reader.read(buffer), 2u);
+    EXPECT_EQ(buffer[1], std::byte{'9'});
+    EXPECT_EQ(reader.read(buffer), 0u);
+}
+
+TEST(FileContent, ReaderOpensRegularFilesOnly)
+{
+    const TempFolder folder;
+    mkfifo(folder.host("fifo").c_str(), 0600);
+    folder.make_link("dangling", "gone");
+    std::array<std::byte, 8> buffer;
+    for (const std::u16string& path : {folder.path(), folder.path("fifo"), folder.path("gone"),
+                                       folder.path("dangling"), std::u16string(u"C:\\dev\\zero"), std::u16string()}) {
+        platform::FileReader reader(path);
+        EXPECT_FALSE(reader.is_open());
+        EXPECT_EQ(reader.read(buffer), 0u);
+    }
+}
+
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "vellumark_text/options.h"
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+/// Calls `visit` for each path that the options name: first the arguments, then the entries of the list file, whose
+/// last one need not be ended. Throws std::runtime_error when the list can't be read.
+void for_each_path(const Options& options, const std::function<void(std::string_view path)>& visit);
+
+/// Drive or server form of a path: a host path is made absolute and normalised by text, a path in drive or server
+/// form stays as it is.
+std::u16string to_system_path(std::string_view path, std::string_view current_folder);
+
+/// The current folder as a host path. Throws std::runtime_error when it is gone.
+std::string current_folder();

@@ -1,0 +1,108 @@
+#include "vellumark_text/status_line.h"
+
+#include "engine/text/utf.h"
+#include "platform/paths.h"
+
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+#include <algorithm>
+
+namespace {
+
+constexpr std::string_view erase_line = "\r\033[K";
+
+std::size_t terminal_columns()
+{
+    winsize size{};
+    return ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : 80;
+}
+
+void write_error(std::string_view text)
+{
+    // A status that can't be shown is no loss.
+    static_cast<void>(!write(STDERR_FILENO, text.data(), text.size()));
+}
+
+bool controls_terminal(char16_t unit)
+{
+    return unit < 0x20 || (unit >= 0x7F && unit < 0xA0);
+}
+
+/// Columns a unit may take: from the first Hangul letter on many characters are twice as wide.
+std::size_t width_of(char16_t unit)
+{
+    return unit >= 0x1100 ? 2 : 1;
+}
+
+template <typename Iterator>
+std::size_t fitting_units(Iterator begin, Iterator end, std::size_t columns)
+{
+    std::size_t units = 0;
+    for (; begin != end && width_of(*begin) <= columns; ++begin, ++units)
+        columns -= width_of(*begin);
+    return units;
+}
+
+std::u16string elided(const std::u16string& text, std::size_t columns)
+{
+    if (fitting_units(text.begin(), text.end(), columns) == text.size() || columns < 3)
+        return text.substr(0, fitting_units(text.begin(), text.end(), columns));
+    const std::size_t kept = columns - 3;
+    const std::size_t front = fitting_units(text.begin(), text.end(), kept / 2);
+    const std::size_t back = fitting_units(text.rbegin(), text.rend(), kept - kept / 2);
+    return text.substr(0, front) + u"..." + text.substr(text.size() - back);
+}
+
+}
+
+std::u16string status_text(std::u16string_view status, std::u16string_view item, std::size_t columns)
+{
+    std::u16string text(status);
+    if (!status.empty())
+        text += u' ';
+    text += item;
+    std::ranges::replace_if(text, controls_terminal, u'?');
+    return elided(text, columns);
+}
+
+StatusLine::StatusLine() : on_terminal_(isatty(STDERR_FILENO) != 0) {}
+
+StatusLine::~StatusLine()
+{
+    if (on_terminal_)
+        erase();
+}
+
+void StatusLine::erase()
+{
+    write_error(erase_line);
+}
+
+void StatusLine::report_item(std::u16string_view text)
+{
+    if (!on_terminal_)
+        return;
+    const std::unique_lock lock(mutex_, std::try_to_lock);
+    if (lock.owns_lock())
+        show(text);
+}
+
+void StatusLine::report_status(std::u16string_view text)
+{
+    if (!on_terminal_)
+        return;
+    const std::lock_guard lock(mutex_);
+    status_ = text;
+}
+
+void StatusLine::show(std::u16string_view item)
+{
+    using namespace std::chrono_literals;
+    const auto now = std::chrono::steady_clock::now();
+    if (now < next_)
+        return;
+    next_ = now + 100ms;
+    const std::u16string host_path = to_utf16(platform::to_host_path(item));
+    write_error(std::string(erase_line) + to_utf8(status_text(status_, host_path, terminal_columns() - 1)));
+}
