@@ -1,0 +1,141 @@
+#include "engine/commands/checksum_pool.h"
+#include "engine/commands/folder_walk.h"
+#include "engine/commands/parallel.h"
+#include "engine_fixture.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <thread>
+
+namespace {
+
+const std::string checksums = "{'fileParts':[{'item-type':'checksum','checksum-type':'sha1'},{'item-type':'checksum',"
+                              "'checksum-type':'crc32','uppercase':true}]}";
+
+TEST(RunParallel, UsesNoMoreThreadsThanWorkAndPassesExceptionsOn)
+{
+    EXPECT_EQ(thread_count(0), 1u);
+    EXPECT_EQ(thread_count(1), 1u);
+    EXPECT_LE(thread_count(1'000'000), std::max(1u, std::thread::hardware_concurrency()));
+    std::atomic<int> ended = 0;
+    const auto work = [&](std::size_t thread) {
+        if (thread == 2)
+            throw std::runtime_error("from a worker");
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+        ++ended;
+    };
+    try {
+        run_parallel(4, work);
+        FAIL();
+    } catch (const std::runtime_error& error) {
+        EXPECT_STREQ(error.what(), "from a worker");
+        EXPECT_EQ(ended, 3) << "every thread is joined first";
+    }
+}
+
+TEST(Workers, ExceptionsOfTheSinkLeaveTheRun)
+{
+    const TempFolder folder;
+    for (int i = 0; i < 20; ++i)
+        folder.write("top/" + std::to_string(i) + "/file", "x");
+    const MVItemsSet set(folder.path("top"));
+    RecordingSink sink;
+    sink.stop = [&]() -> bool { throw std::runtime_error("no more"); };
+    EXPECT_THROW(generated(make_command(checksums), set, sink), std::runtime_error);
+    EXPECT_THROW(precache_folders(set.items(), sink), std::runtime_error);
+}
+
+TEST(Checksums, AreComputedOnceAFileAndTypeWithoutRaces)
+{
+    const TempFolder folder;
+    for (int i = 0; i < 40; ++i)
+        folder.write("top/" + std::to_string(i % 4) + "/f" + std::to_string(i), std::to_string(i));
+    MVItemsSet set(folder.path("top"));
+    set.add_path(folder.path("top/1"));
+    set.add_path(folder.path("top/1/f1"));
+    RecordingSink sink;
+    const auto tree = make_command("{'folderParts':[{'item-type':'folder-files'},{'item-type':'folder-subfolders'}],"
+                                   "'fileParts':[{'item-type':'checksum','checksum-type':'md5'}]}");
+    const std::string text = generated(tree, set, sink);
+    EXPECT_EQ(sink.statuses, std::vector<std::string>{"Computing checksums..."});
+    const auto hashed = [&] {
+        return std::ranges::count_if(sink.items,
+                                     [](const std::string& path) { return path[path.rfind("\\") + 1] == 'f'; });
+    };
+    EXPECT_EQ(hashed(), 40);
+    EXPECT_EQ(generated(tree, set, sink), text);
+    EXPECT_EQ(hashed(), 40) << "all cached";
+}
+
+TEST(Checksums, ACancelledRunKeepsWhatWasDone)
+{
+    const TempFolder folder;
+    std::vector<std::u16string> paths;
+    for (int i = 0; i < 10; ++i)
+        paths.push_back(folder.write("f" + std::to_string(i), std::string(200'000, 'x')));
+    const MVItemsSet set(paths);
+    RecordingSink sink;
+    const std::size_t workers = thread_count(10);
+    sink.stop = [&] {
+        const std::lock_guard lock(sink.mutex);
+        return sink.items.size() > workers;
+    };
+    precache_checksums(set.items(), {ChecksumType::Sha1}, false, sink);
+    const auto cached = std::ranges::count_if(
+        set.items(), [](const auto& item) { return !item->cached_checksum(ChecksumType::Sha1).empty(); });
+    EXPECT_GE(cached, 1);
+    EXPECT_LE(cached, static_cast<std::ptrdiff_t>(workers)) << "a file that was cancelled has no checksum";
+}
+
+TEST(ExpandFiles, ReturnsWhatWasGatheredBeforeTheCancel)
+{
+    const TempFolder folder;
+    for (const char* name : {"a/1", "a/2", "b/3", "b/4"})
+        folder.write(name);
+    const MVItemsSet set(std::vector{folder.path("a"), folder.path("b")});
+    const std::vector<std::size_t> after_question{1, 2, 2, 3, 4, 4};
+    for (std::size_t question = 0; question < after_question.size(); ++question) {
+        RecordingSink sink;
+        sink.stop = [&] { return sink.questions > static_cast<int>(question); };
+        EXPECT_EQ(expand_files(set, 0, sink, nullptr).size(), after_question[question]) << question;
+    }
+}
+
+TEST(GenerateText, StopsBetweenParts)
+{
+    const TempFolder folder;
+    folder.write("a");
+    folder.write("b");
+    const MVItemsSet set(std::vector{folder.path("a"), folder.path("b")});
+    const auto command =
+        make_command("{'separator':',','startText':'<','endText':'>','fileParts':[{'item-type':'name',"
+                     "'name-type':'full-name'},{'item-type':'text','text':'1'}]}");
+    RecordingSink whole;
+    EXPECT_EQ(generated(command, set, whole), "<a1,b1>");
+    RecordingSink cancelled;
+    cancelled.stop = [] { return true; };
+    EXPECT_EQ(generated(command, set, cancelled), "<a>");
+    EXPECT_LT(cancelled.questions, whole.questions);
+}
+
+TEST(ReadAhead, ReadsNoFolderTwiceHoweverItIsSelected)
+{
+    const TempFolder folder;
+    for (int i = 0; i < 30; ++i)
+        folder.write("top/" + std::to_string(i) + "/sub/file");
+    folder.make_link("top/up", ".");
+    MVItemsSet set(folder.path("top"));
+    set.add_path(folder.path("top/3"));
+    set.add_path(folder.path("top/3/sub"));
+    set.add_path(u"\\\\no-such-server");
+    set.add_path(u"\\\\no-such-server");
+    RecordingSink sink;
+    precache_folders(set.items(), sink);
+    std::multiset<std::string> read(sink.items.begin(), sink.items.end());
+    EXPECT_EQ(read.size(), 62u);
+    for (const std::string& path : read)
+        EXPECT_EQ(read.count(path), 1u) << path;
+}
+
+}

@@ -1,0 +1,207 @@
+#include "engine/commands/checksum_comparison.h"
+#include "engine_fixture.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace {
+
+std::string rewritten(const std::string& json)
+{
+    std::string text = boost::json::serialize(make_command(json).to_json());
+    std::ranges::replace(text, '"', '\'');
+    return text;
+}
+
+const std::string head = "{'commandType':'Vellumark','name':'test',";
+const std::string texts = "'separator':'\\n','startText':'','endText':'','sortOrder':'as-selected',"
+                          "'noStartEndTextIfOneItem':false,";
+const std::string parts = "'fileParts':[{'name-type':'full-name','item-type':'name'}],";
+const std::string no_files = "'addFilesFromFolders':false,";
+
+TEST(CommandJson, FillsInDefaults)
+{
+    EXPECT_EQ(rewritten("{}"), head + texts + parts + no_files + "'showUsingDefaultRules':true}");
+}
+
+TEST(CommandJson, WritesOnlyWhatCounts)
+{
+    const std::string begin = head + texts + parts;
+    const std::vector<std::pair<std::string, std::string>> cases{
+        {"{'folderParts':[]}", begin + "'folderParts':[]," + no_files + "'showUsingDefaultRules':true}"},
+        {"{'addFilesFromFolders':true,'maxFolderDepth':3}",
+         begin + "'addFilesFromFolders':true,'limitFolderDepth':false,'showUsingDefaultRules':true}"},
+        {"{'addFilesFromFolders':true,'limitFolderDepth':true,'maxFolderDepth':3}",
+         begin + "'addFilesFromFolders':true,'limitFolderDepth':true,'maxFolderDepth':3,'showUsingDefaultRules':"
+                 "true}"},
+        {"{'limitFolderDepth':true}", begin + no_files + "'showUsingDefaultRules':true}"},
+        {"{'showUsingDefaultRules':false,'showRule':'exactlyOneFile'}",
+         begin + no_files +
+             "'showUsingDefaultRules':false,'showRule':'exactlyOneFile','showIfFilesSelected':true,"
+             "'showIfFoldersSelected':false}"},
+        {"{'showUsingDefaultRules':false,'showIfFoldersSelected':true}",
+         begin + no_files +
+             "'showUsingDefaultRules':false,'showRule':'atLeastOneFolder','showIfFilesSelected':false,"
+             "'showIfFoldersSelected':true}"},
+        {"{'showUsingDefaultRules':false,'showIfFilesSelected':true}",
+         begin + no_files +
+             "'showUsingDefaultRules':false,'showRule':'atLeastOneFile','showIfFilesSelected':true,"
+             "'showIfFoldersSelected':false}"},
+        {"{'showUsingDefaultRules':false,'showRule':'?','showIfFilesSelected':true}",
+         begin + no_files +
+             "'showUsingDefaultRules':false,'showRule':'atLeastOneItem','showIfFilesSelected':true,"
+             "'showIfFoldersSelected':true}"},
+        {"{'fileFilterEnabled':true}", begin + no_files + "'showUsingDefaultRules':true,'fileFilterEnabled':true}"},
+        {"{'fileFilter':{'filterPattern':'A','fileFilterPresetUuid':'u'},'folderFilterEnabled':true,'folderFilter':{"
+         "'filterMode':'regex','filterPattern':'(','fileFilterPresetUuid':'u'}}",
+         begin + no_files +
+             "'showUsingDefaultRules':true,'fileFilterEnabled':false,'fileFilter':{'filterMode':"
+             "'extensions','filterAction':'include','filterPattern':'a','fileFilterPresetUuid':'u'},"
+             "'folderFilterEnabled':false,'folderFilter':{'filterMode':'regex','filterAction':"
+             "'include','filterPattern':'('}}"},
+        {"{'fileFilter':7,'fileFilterEnabled':false}", begin + no_files + "'showUsingDefaultRules':true}"},
+    };
+    for (const auto& [stored, expected] : cases) {
+        EXPECT_EQ(rewritten(stored), expected);
+        EXPECT_EQ(rewritten(expected), expected) << "what was read and not changed";
+    }
+}
+
+TEST(CommandJson, WrongKindsAreRefused)
+{
+    for (const char* json :
+         {"{'name':1}", "{'separator':null}", "{'sortOrder':1}", "{'fileParts':{}}", "{'folderParts':null}",
+          "{'addFilesFromFolders':'yes'}", "{'maxFolderDepth':1.5}", "{'maxFolderDepth':4294967296}",
+          "{'showUsingDefaultRules':0}", "{'fileFilter':{'filterPattern':1}}", "{'showInMenu':1}"})
+        EXPECT_THROW(make_command(json), std::exception) << json;
+    boost::json::object object;
+    for (const char* key : {"name", "separator", "fileParts"}) {
+        try {
+            VellumarkCommand read(object);
+            FAIL();
+        } catch (const std::runtime_error& error) {
+            EXPECT_EQ(error.what(), "Missing key in JSON: " + std::string(key));
+        }
+        object[key] = "";
+    }
+    VellumarkCommand command;
+    command.set_sort_order(Sort(9));
+    EXPECT_THROW(command.to_json(), std::runtime_error);
+}
+
+TEST(Command, CopiesAreDeepAndEqualityIsOfAllFields)
+{
+    const VellumarkCommand original = make_command("{}");
+    const std::vector<void (*)(VellumarkCommand&)> changes{
+        [](VellumarkCommand& c) { c.file_parts()->remove(c.file_parts()->begin()); },
+        [](VellumarkCommand& c) { c.folder_parts()->append(*c.file_parts()->begin()); },
+        [](VellumarkCommand& c) { c.set_name(u"x"); },
+        [](VellumarkCommand& c) { c.set_name1(u"x"); },
+        [](VellumarkCommand& c) { c.set_separator(u"x"); },
+        [](VellumarkCommand& c) { c.set_start_text(u"x"); },
+        [](VellumarkCommand& c) { c.set_end_text(u"x"); },
+        [](VellumarkCommand& c) { c.set_same_parts_for_folders(false); },
+        [](VellumarkCommand& c) { c.set_no_start_end_text_if_one_item(true); },
+        [](VellumarkCommand& c) { c.set_sort_order(Sort::Size); },
+        [](VellumarkCommand& c) { c.set_add_files_from_folders(true); },
+        [](VellumarkCommand& c) { c.set_limit_folder_depth(true); },
+        [](VellumarkCommand& c) { c.set_max_folder_depth(9); },
+        [](VellumarkCommand& c) { c.set_show(false, c.show_rule()); },
+        [](VellumarkCommand& c) { c.set_show(true, ShowRule::MoreThanOneItem); },
+        [](VellumarkCommand& c) { c.set_file_filter_enabled(true); },
+        [](VellumarkCommand& c) { c.set_file_filter_preset_uuid(u"x"); },
+        [](VellumarkCommand& c) {
+            ItemFilter f;
+            f.set_filter_pattern(u"x");
+            c.set_file_filter(f);
+        },
+        [](VellumarkCommand& c) { c.set_folder_filter_enabled(true); },
+        [](VellumarkCommand& c) {
+            ItemFilter f;
+            f.set_filter_pattern(u"x");
+            c.set_folder_filter(f);
+        },
+    };
+    for (std::size_t i = 0; i < changes.size(); ++i) {
+        VellumarkCommand changed = original;
+        EXPECT_TRUE(changed.equals(original));
+        changes[i](changed);
+        EXPECT_FALSE(changed.equals(original)) << i;
+        VellumarkCommand target;
+        target.assign_from(changed);
+        target.set_name(changed.name());
+        target.set_name1(changed.name1());
+        EXPECT_TRUE(target.equals(changed)) << i;
+    }
+}
+
+TEST(Command, TurningTheLimitOnRaisesTheDepth)
+{
+    VellumarkCommand command = make_command("{}");
+    EXPECT_EQ(command.max_folder_depth(), 0);
+    command.set_limit_folder_depth(true);
+    EXPECT_EQ(command.max_folder_depth(), 1);
+}
+
+TEST(ShowRules, FollowTheSelectionAndTheFilters)
+{
+    const TempFolder folder;
+    folder.write("file.txt");
+    folder.make_folder("sub");
+    folder.make_link("link", "file.txt");
+    const auto shown = [&](const std::string& json, std::vector<std::string> names) {
+        MVItemsSet set;
+        for (const auto& name : names)
+            set.add_path(folder.path(name));
+        return make_command(json).is_shown_for(set);
+    };
+    const std::vector<std::pair<std::string, std::string>> selections{
+        {"atLeastOneFile", "F FS L"},   {"atLeastOneFolder", "S FS"}, {"atLeastOneLink", "L"},
+        {"atLeastOneItem", "F S FS L"}, {"exactlyOneFile", "F L"},    {"exactlyOneFolder", "S"},
+        {"exactlyOneLink", "L"},        {"exactlyOneItem", "F S L"},  {"moreThanOneItem", "FS"}};
+    for (const auto& [rule, expected] : selections) {
+        std::string holding;
+        for (const auto& [title, names] : std::vector<std::pair<std::string, std::vector<std::string>>>{
+                 {"-", {}}, {"F", {"file.txt"}}, {"S", {"sub"}}, {"FS", {"file.txt", "sub"}}, {"L", {"link"}}})
+            if (shown("{'showUsingDefaultRules':false,'showRule':'" + rule + "'}", names))
+                holding += (holding.empty() ? "" : " ") + title;
+        EXPECT_EQ(holding, expected) << rule;
+    }
+    EXPECT_TRUE(shown("{}", {"sub"}));
+    EXPECT_FALSE(shown("{'fileParts':[{'item-type':'size','size-format':'auto'}]}", {"sub"}));
+    EXPECT_FALSE(shown("{'folderParts':[]}", {"file.txt"}));
+    EXPECT_FALSE(shown("{'addFilesFromFolders':true}", {"file.txt"}));
+    const std::string jpg = "{'fileFilterEnabled':true,'fileFilter':{'filterPattern':'jpg'}";
+    EXPECT_FALSE(shown(jpg + "}", {"file.txt"}));
+    EXPECT_TRUE(shown(jpg + "}", {"file.txt", "sub"}));
+    EXPECT_FALSE(
+        shown(jpg + ",'folderFilterEnabled':true,'folderFilter':{'filterPattern':'x'}}", {"file.txt", "sub"}));
+}
+
+TEST(ChecksumComparison, FindsTheCopiedChecksum)
+{
+    const TempFolder folder;
+    const MVItemsSet set(folder.write("file", "123456789"));
+    const auto command = make_command("{'fileParts':[{'item-type':'checksum','checksum-type':'crc32'}]}");
+    const auto compared = [&](const VellumarkCommand& c, std::u16string text,
+                              std::u16string clipboard) -> std::string {
+        const auto result = compare_checksum(c, set, text, [&] { return std::optional(clipboard); });
+        return result ? to_utf8(result->copied) + (result->equal ? " = " : " # ") + std::string(result->type_name)
+                      : "none";
+    };
+    const std::vector<std::pair<std::u16string, std::string>> cases{{u"0xCBF43926", "CBF43926 = CRC32"},
+                                                                    {u"file: 12345678, cbf43926", "12345678 # CRC32"},
+                                                                    {u"cbf439261 \u00E9cbf43926", "none"},
+                                                                    {u"ghijklmn\tcbf43926\n", "cbf43926 = CRC32"},
+                                                                    {u"cbf4392", "none"},
+                                                                    {u"", "none"}};
+    for (const auto& [clipboard, expected] : cases)
+        EXPECT_EQ(compared(command, u"cbf43926", clipboard), expected) << to_utf8(clipboard);
+    EXPECT_EQ(compared(command, u"(cbf4392)", u"cbf43926"), "none");
+    EXPECT_EQ(compared(make_command("{}"), u"cbf43926", u"cbf43926"), "none");
+    const auto no_clipboard = [] { return std::optional<std::u16string>(); };
+    EXPECT_FALSE(compare_checksum(command, set, u"cbf43926", no_clipboard));
+}
+
+}

@@ -1,0 +1,142 @@
+#include "engine/filters/extensions_preset.h"
+#include "engine/filters/item_filter.h"
+#include "engine/text/utf.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using Mode = ItemFilter::Mode;
+
+ItemFilter filter(Mode mode, std::u16string pattern)
+{
+    ItemFilter made;
+    made.set_filter_mode(mode);
+    made.set_filter_pattern(std::move(pattern));
+    return made;
+}
+
+TEST(ItemFilter, ParsesExtensionLists)
+{
+    const std::vector<std::pair<std::u16string, std::string>> cases{{u"JPG; .png ;;gif", "jpg|.png|gif|"},
+                                                                    {u".jpg;.PNG", "jpg|png|"},
+                                                                    {u" ; . ;..a; b c ", ".|.a|b c|"},
+                                                                    {u"", ""}};
+    for (const auto& [pattern, expected] : cases) {
+        std::string joined;
+        const ItemFilter made = filter(Mode::Extensions, pattern);
+        for (const auto& extension : made.extensions())
+            joined += to_utf8(extension) + "|";
+        EXPECT_EQ(joined, expected) << to_utf8(pattern);
+    }
+    EXPECT_EQ(filter(Mode::Extensions, u"JPG; .png ;;gif").filter_pattern(), u"jpg; .png ;;gif");
+    EXPECT_EQ(filter(Mode::Wildcard, u"*.JPG").filter_pattern(), u"*.JPG");
+}
+
+TEST(ItemFilter, Matches)
+{
+    struct Case {
+        Mode mode;
+        std::u16string pattern, name;
+        bool expected;
+    };
+
+    const Case cases[]{
+        {Mode::Extensions, u"jpg", u"photo.JPG", true},
+        {Mode::Extensions, u"gitignore", u".gitignore", true},
+        {Mode::Extensions, u"tar.gz", u"a.tar.gz", false},
+        {Mode::Extensions, u"gz", u"a.tar.gz", true},
+        {Mode::Extensions, u"txt", u"file.", false},
+        {Mode::Extensions, u"txt", u"README", false},
+        {Mode::Extensions, u" .txt", u"a.txt", false},
+        {Mode::Extensions, u"txt", u"a.txt\\b", false},
+        {Mode::Extensions, u";", u"a.txt", false},
+        {Mode::Wildcard, u"*.txt", u"A.TXT", true},
+        {Mode::Wildcard, u"*.txt", u".txt", true},
+        {Mode::Wildcard, u"*.txt", u"a.txt.bak", false},
+        {Mode::Wildcard, u"a?c", u"abc", true},
+        {Mode::Wildcard, u"a?c", u"ac", false},
+        {Mode::Wildcard, u"*", u"anything", true},
+        {Mode::Wildcard, u"a*b*", u"a-b-c", true},
+        {Mode::Wildcard, u"*ab*ab?", u"abababx", true},
+        {Mode::Wildcard, u"??", u"\U0001F389", true},
+        {Mode::Wildcard, u"a", u"", false},
+        {Mode::Wildcard, u"\u00C9*", u"\u00E9a", false},
+        {Mode::Regex, u"\\.(jpe?g|png|gif)$", u"X.JPEG", true},
+        {Mode::Regex, u"a", u"bar", true},
+        {Mode::Regex, u"^a$", u"bar", false},
+        {Mode::Regex, u"^b", u"a\nb", false},
+        {Mode::Regex, u"a$", u"a\nb", false},
+        {Mode::Regex, u"a.b", u"a\nb", false},
+        {Mode::Regex, u"^\\w+$", u"\u00E9t\u00E9", true},
+        {Mode::Regex, u"\u00C9", u"\u00E9", false},
+        {Mode::Regex, u"^[[:alpha:]]$", u"\u0416", true},
+        {Mode::Regex, u"(", u"(", false},
+        {Mode::Regex, u"", u"x", true},
+    };
+    for (const Case& c : cases) {
+        ItemFilter made = filter(c.mode, c.pattern);
+        EXPECT_EQ(made.matches(c.name), c.expected) << to_utf8(c.pattern) << " on " << to_utf8(c.name);
+        made.set_filter_action(ItemFilter::Action::Exclude);
+        EXPECT_EQ(made.passes(c.name), c.pattern.empty() || !c.expected) << to_utf8(c.pattern);
+    }
+}
+
+TEST(ItemFilter, RunawayExpressionsEndWithoutAMatch)
+{
+    const std::u16string name = std::u16string(250, u'a') + u"!";
+    for (const auto* pattern : {u"^(a+)+$", u"^(a|aa)+$", u"(x+x+)+y|^(([a-z])+.)+[A-Z]([a-z])+$"})
+        EXPECT_FALSE(filter(Mode::Regex, pattern).matches(name)) << to_utf8(pattern);
+}
+
+TEST(ItemFilter, ChangesDropWhatWasCompiled)
+{
+    ItemFilter made = filter(Mode::Regex, u"B");
+    EXPECT_TRUE(made.matches(u"b"));
+    const ItemFilter copy = made;
+    made.set_filter_pattern(u"c");
+    EXPECT_FALSE(made.matches(u"b"));
+    EXPECT_TRUE(copy.matches(u"b"));
+    made.set_filter_mode(Mode::Extensions);
+    EXPECT_TRUE(made.matches(u"b.C"));
+    EXPECT_FALSE(copy == made);
+}
+
+TEST(ItemFilter, KnowsInvalidPatterns)
+{
+    const std::vector<std::tuple<Mode, std::u16string, bool>> cases{
+        {Mode::Extensions, u"", true},     {Mode::Extensions, u"a;b c", true}, {Mode::Extensions, u"a*", false},
+        {Mode::Extensions, u"a\t", false}, {Mode::Wildcard, u"*?;", true},     {Mode::Wildcard, u"a|b", false},
+        {Mode::Wildcard, u"a\\b", false},  {Mode::Regex, u"[a-", false},       {Mode::Regex, u"[a-z]", true},
+        {Mode::Regex, u"", true}};
+    for (const auto& [mode, pattern, valid] : cases)
+        EXPECT_EQ(filter(mode, pattern).is_pattern_valid(), valid) << to_utf8(pattern);
+}
+
+TEST(ItemFilter, ReadsAnyJsonThatIsAnObject)
+{
+    const auto rewritten = [](std::string_view json) {
+        return boost::json::serialize(ItemFilter(boost::json::parse(json).as_object()).to_json());
+    };
+    EXPECT_EQ(rewritten("{}"), R"({"filterMode":"extensions","filterAction":"include","filterPattern":""})");
+    EXPECT_EQ(rewritten(R"({"filterPattern":"A","filterMode":"?","filterAction":"?"})"),
+              R"({"filterMode":"extensions","filterAction":"include","filterPattern":"a"})");
+    EXPECT_EQ(rewritten(R"({"filterPattern":"A","filterMode":"regex","filterAction":"exclude"})"),
+              R"({"filterMode":"regex","filterAction":"exclude","filterPattern":"A"})");
+}
+
+TEST(ExtensionsPreset, KeepsItsListInLowerCase)
+{
+    std::vector<ExtensionsPreset> presets(3);
+    read_presets(boost::json::parse(R"([1,{"uuid":"u","name":"N","extensions":"JPG;PNG"},[]])").as_array(), presets);
+    EXPECT_EQ(boost::json::serialize(presets_to_json(presets)),
+              R"([{"uuid":"u","name":"N","extensions":"jpg;png"}])");
+    EXPECT_THROW(ExtensionsPreset(boost::json::parse(R"({"uuid":"u","name":"N"})").as_object()), std::runtime_error);
+    presets[0].make_new_uuid();
+    const std::u16string first = presets[0].uuid;
+    presets[0].make_new_uuid();
+    EXPECT_NE(presets[0].uuid, first);
+    EXPECT_TRUE(filter(Mode::Regex, u"^[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}$").matches(first)) << to_utf8(first);
+}
+
+}
