@@ -26,7 +26,8 @@ std::optional<std::int64_t> ask_offset(std::int64_t moment)
         return {};
     const sys_days month_start = year{local.tm_year + 1900} / (local.tm_mon + 1) / 1;
     const std::int64_t day = month_start.time_since_epoch().count() + local.tm_mday - 1;
-    return day * seconds_per_day + local.tm_hour * 3600 + local.tm_min * 60 + local.tm_sec - moment;
+    const std::int64_t minute = std::int64_t{local.tm_hour} * 60 + local.tm_min;
+    return day * seconds_per_day + minute * 60 + local.tm_sec - moment;
 }
 
 /// One quarter of an hour of UTC in which the offset is the same throughout.

@@ -13,6 +13,7 @@
 #include <fstream>
 #include <sstream>
 #include <thread>
+#include <vector>
 
 namespace {
 
@@ -54,10 +55,10 @@ TEST(FileContent, WritesAndReplaces)
     folder.write("file", "a longer old content");
     EXPECT_TRUE(platform::write_file(folder.path("file"), "new"));
     EXPECT_EQ(content_of(folder.host("file")), "new");
-    const mode_t mask = umask(027);
+    const mode_t mask = umask(007);
     EXPECT_TRUE(platform::write_file(folder.path("file+"), std::string(3'000'000, 'y')));
     umask(mask);
-    EXPECT_EQ(std::filesystem::status(folder.host("file+")).permissions(), std::filesystem::perms(0640));
+    EXPECT_EQ(std::filesystem::status(folder.host("file+")).permissions(), std::filesystem::perms(0660));
     EXPECT_TRUE(platform::replace_file(folder.path("file+"), folder.path("file")));
     EXPECT_EQ(content_of(folder.host("file")), std::string(3'000'000, 'y'));
     EXPECT_FALSE(std::filesystem::exists(folder.host("file+")));
@@ -95,6 +96,16 @@ TEST(FileContent, ReaderFillsItsBuffer)
     EXPECT_EQ(reader.read(buffer), 2u);
     EXPECT_EQ(buffer[1], std::byte{'9'});
     EXPECT_EQ(reader.read(buffer), 0u);
+}
+
+TEST(FileContent, ReaderGoesOnAfterShortReads)
+{
+    // The kernel gives this file page by page.
+    std::vector<std::byte> buffer(1'000'000);
+    const int descriptor = open("/proc/self/maps", O_RDONLY);
+    const ssize_t at_once = read(descriptor, buffer.data(), buffer.size());
+    close(descriptor);
+    EXPECT_GT(platform::FileReader(u"C:\\proc\\self\\maps").read(buffer), static_cast<std::size_t>(at_once));
 }
 
 TEST(FileContent, ReaderOpensRegularFilesOnly)

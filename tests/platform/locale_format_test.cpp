@@ -111,9 +111,10 @@ TEST(LocaleFormat, FirstUseOnSeveralThreads)
     const auto all_agree = [] {
         std::array<std::u16string, 4> results;
         {
-            std::vector<std::jthread> threads;
+            std::array<std::jthread, 4> threads;
+            std::size_t next = 0;
             for (std::u16string& result : results)
-                threads.emplace_back([&result] { result = styles(march); });
+                threads[next++] = std::jthread([&result] { result = styles(march); });
         }
         return std::ranges::count(results, results[0]) == 4 ? results[0] : u"differ";
     };

@@ -98,9 +98,10 @@ TEST(Paths, PresentableText)
     for (std::size_t before : {0u, 1u, 63u, 64u, 200u})
         for (const auto& [text, expected] : rows) {
             const std::u16string padding(before, u'\uD7FF');
-            std::u16string result = padding + text + padding;
+            std::u16string result = padding;
+            result.append(text).append(padding);
             platform::make_presentable(result);
-            EXPECT_EQ(result, padding + expected + padding);
+            EXPECT_EQ(result, std::u16string(padding).append(expected).append(padding));
         }
 }
 
