@@ -38,15 +38,16 @@ std::vector<std::u16string> server_shares(std::u16string_view server);
 /// `path` is no link, its target is gone, or the links lead in a circle.
 std::u16string link_target(std::u16string_view path);
 
-/// True when the path leads to something, links followed: a dangling link does not exist.
+/// True when the path leads to something, links followed: a dangling link does not exist. What can't be looked at for
+/// want of rights or for a circle of links counts as there, so that reading it tells the reason.
 bool exists(std::u16string_view path);
 
 /// Creates the folder and its missing parents; a folder that is there is fine. Throws
 /// boost::filesystem::filesystem_error with the operation name "create_directories" and the host path as path1.
 void create_directories(std::u16string_view folder);
 
-/// The whole content of a file or pipe. When it can't be opened or read the result is empty and `error` holds the
-/// system's English words for the reason; otherwise `error` stays as it was.
+/// The whole content of a file or pipe, 2 GiB at the most. When it can't be opened or read the result is empty and
+/// `error` holds the system's English words for the reason; otherwise `error` stays as it was.
 std::optional<std::string> read_file(std::u16string_view path, std::string& error);
 
 /// Writes `content` to `path`, truncating what was there, and brings it to the disk before it returns. False on any

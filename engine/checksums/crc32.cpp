@@ -1,7 +1,6 @@
 #include "engine/checksums/crc32.h"
 
-#include <bit>
-#include <cstring>
+#include "engine/checksums/little_endian.h"
 
 namespace {
 
@@ -30,15 +29,6 @@ const Tables& tables()
     return built;
 }
 
-std::uint32_t load(const std::byte* bytes)
-{
-    std::uint32_t word = 0;
-    std::memcpy(&word, bytes, sizeof word);
-    if constexpr (std::endian::native == std::endian::big)
-        word = __builtin_bswap32(word);
-    return word;
-}
-
 /// The part of the new state that four bytes contribute which `behind` more bytes of the step follow.
 std::uint32_t fold(const Tables& table, std::uint32_t word, std::size_t behind)
 {
@@ -53,8 +43,10 @@ void Crc32::update(std::span<const std::byte> bytes)
     const Tables& table = tables();
     for (; bytes.size() >= 16; bytes = bytes.subspan(16)) {
         const std::byte* at = bytes.data();
-        state_ = fold(table, load(at) ^ state_, 12) ^ fold(table, load(at + 4), 8) ^ fold(table, load(at + 8), 4) ^
-                 fold(table, load(at + 12), 0);
+        state_ = fold(table, load_little_endian<std::uint32_t>(at) ^ state_, 12) ^
+                 fold(table, load_little_endian<std::uint32_t>(at + 4), 8) ^
+                 fold(table, load_little_endian<std::uint32_t>(at + 8), 4) ^
+                 fold(table, load_little_endian<std::uint32_t>(at + 12), 0);
     }
     for (const std::byte byte : bytes)
         state_ = (state_ >> 8) ^ table[0][(state_ ^ static_cast<std::uint32_t>(byte)) & 0xFF];

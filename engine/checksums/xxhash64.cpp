@@ -1,32 +1,15 @@
 #include "engine/checksums/xxhash64.h"
 
+#include "engine/checksums/little_endian.h"
+
 #include <algorithm>
 #include <bit>
-#include <cstring>
 
 namespace {
 
 constexpr std::uint64_t prime1 = 0x9E3779B185EBCA87, prime2 = 0xC2B2AE3D27D4EB4F, prime3 = 0x165667B19E3779F9,
                         prime4 = 0x85EBCA77C2B2AE63, prime5 = 0x27D4EB2F165667C5;
 constexpr std::size_t stripe_size = 32;
-
-std::uint64_t load64(const std::byte* bytes)
-{
-    std::uint64_t word = 0;
-    std::memcpy(&word, bytes, sizeof word);
-    if constexpr (std::endian::native == std::endian::big)
-        word = __builtin_bswap64(word);
-    return word;
-}
-
-std::uint64_t load32(const std::byte* bytes)
-{
-    std::uint32_t word = 0;
-    std::memcpy(&word, bytes, sizeof word);
-    if constexpr (std::endian::native == std::endian::big)
-        word = __builtin_bswap32(word);
-    return word;
-}
 
 constexpr std::uint64_t round(std::uint64_t lane, std::uint64_t input)
 {
@@ -51,10 +34,10 @@ void XxHash64::consume(const std::byte* stripes, std::size_t count)
 {
     auto [a, b, c, d] = lanes_;
     for (; count > 0; --count, stripes += stripe_size) {
-        a = round(a, load64(stripes));
-        b = round(b, load64(stripes + 8));
-        c = round(c, load64(stripes + 16));
-        d = round(d, load64(stripes + 24));
+        a = round(a, load_little_endian<std::uint64_t>(stripes));
+        b = round(b, load_little_endian<std::uint64_t>(stripes + 8));
+        c = round(c, load_little_endian<std::uint64_t>(stripes + 16));
+        d = round(d, load_little_endian<std::uint64_t>(stripes + 24));
     }
     lanes_ = {a, b, c, d};
 }
@@ -84,9 +67,9 @@ std::uint64_t XxHash64::tail_mixed(std::uint64_t hash) const
     const std::byte* at = tail_.data();
     std::size_t left = tail_size_;
     for (; left >= 8; at += 8, left -= 8)
-        hash = std::rotl(hash ^ round(0, load64(at)), 27) * prime1 + prime4;
+        hash = std::rotl(hash ^ round(0, load_little_endian<std::uint64_t>(at)), 27) * prime1 + prime4;
     if (left >= 4) {
-        hash = std::rotl(hash ^ (load32(at) * prime1), 23) * prime2 + prime3;
+        hash = std::rotl(hash ^ (load_little_endian<std::uint32_t>(at) * prime1), 23) * prime2 + prime3;
         at += 4;
         left -= 4;
     }

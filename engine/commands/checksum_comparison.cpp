@@ -11,7 +11,7 @@ namespace {
 
 bool is_hex_digit(char16_t unit)
 {
-    return is_digit(unit) || (to_lower(unit) >= u'a' && to_lower(unit) <= u'f');
+    return is_ascii_digit(unit) || (to_lower(unit) >= u'a' && to_lower(unit) <= u'f');
 }
 
 bool is_checksum(std::u16string_view text, const ChecksumRow& row)

@@ -5,8 +5,8 @@
 #include "engine/items/mv_item_folder.h"
 #include "engine/parts/item_progress_sink.h"
 
-#include <atomic>
 #include <unordered_set>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -34,11 +34,20 @@ public:
 
     void add_files_below(const MVItemFolder& folder)
     {
-        for (const auto& child : folder.children()) {
-            if (child->is_folder())
-                add_files_below(static_cast<const MVItemFolder&>(*child));
-            else
-                add_file(*child);
+        // Depth first, children in their order; without recursion, as paths can be made of any number of components.
+        std::vector<std::pair<ChildMap::const_iterator, ChildMap::const_iterator>> open{
+            {folder.children().begin(), folder.children().end()}};
+        while (!open.empty()) {
+            auto& [next, end] = open.back();
+            if (next == end) {
+                open.pop_back();
+                continue;
+            }
+            const MVItemBase& child = **next++;
+            if (!child.is_folder())
+                add_file(child);
+            else if (const auto& children = static_cast<const MVItemFolder&>(child).children(); !children.empty())
+                open.emplace_back(children.begin(), children.end());
         }
     }
 
@@ -52,17 +61,12 @@ private:
 
 void compute(std::vector<Job>& jobs, ItemProgressSink& sink)
 {
-    std::atomic<std::uint64_t> next = 0;
-    run_parallel(thread_count(jobs.size()), [&](std::size_t) {
-        while (!sink.is_cancelled()) {
-            const std::uint64_t index = next.fetch_add(1);
-            if (index >= jobs.size())
-                return;
-            Job& job = jobs[index];
-            const std::u16string path = job.file->full_path();
-            sink.report_item(path);
-            job.text = file_checksum(path, job.type, [&] { return sink.is_cancelled(); });
-        }
+    const auto cancelled = [&] { return sink.is_cancelled(); };
+    for_each_parallel(jobs.size(), cancelled, [&](std::size_t index, std::size_t) {
+        Job& job = jobs[index];
+        const std::u16string path = job.file->full_path();
+        sink.report_item(path);
+        job.text = file_checksum(path, job.type, cancelled);
     });
 }
 

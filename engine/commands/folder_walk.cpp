@@ -6,7 +6,6 @@
 #include "engine/parts/item_progress_sink.h"
 
 #include <algorithm>
-#include <atomic>
 
 namespace {
 
@@ -42,7 +41,7 @@ private:
             if (!child->is_folder()) {
                 files_.push_back(child);
             } else {
-                if (child->is_link() || !passes(*child))
+                if (child->is_link() || (enters_below(level) && !passes(*child)))
                     continue;
                 if (enters_below(level) && !add_files_below(static_cast<const MVItemFolder&>(*child), level + 1))
                     return false;
@@ -53,7 +52,7 @@ private:
         return true;
     }
 
-    bool enters_below(int level) const { return (max_depth_ == 0 || level < max_depth_) && level < max_walk_level; }
+    bool enters_below(int level) const { return (max_depth_ == 0 || level < max_depth_) && level < max_folder_level; }
 
     bool passes(const MVItemBase& folder) const { return !folder_filter_ || folder_filter_->passes(folder.name()); }
 
@@ -75,22 +74,17 @@ void keep_unread(Folders& folders)
 /// Reads the folders on a pool of threads and returns the unread folders found in them.
 Folders read_level(const Folders& folders, ItemProgressSink& sink)
 {
-    const std::size_t threads = thread_count(folders.size());
-    std::vector<Folders> found(threads);
-    std::atomic<std::uint64_t> next = 0;
-    run_parallel(threads, [&](std::size_t thread) {
-        while (!sink.is_cancelled()) {
-            const std::uint64_t index = next.fetch_add(1);
-            if (index >= folders.size())
-                return;
-            const MVItemFolder& folder = *folders[index];
-            sink.report_item(folder.full_path());
-            folder.load_children();
-            for (const auto& child : folder.children())
-                if (child->is_folder() && !child->is_link())
-                    found[thread].push_back(static_cast<const MVItemFolder*>(child.get()));
-        }
-    });
+    std::vector<Folders> found(thread_count(folders.size()));
+    const auto read = [&](std::size_t index, std::size_t thread) {
+        const MVItemFolder& folder = *folders[index];
+        sink.report_item(folder.full_path());
+        folder.load_children();
+        for (const auto& child : folder.children())
+            if (child->is_folder() && !child->is_link())
+                found[thread].push_back(static_cast<const MVItemFolder*>(child.get()));
+    };
+    for_each_parallel(
+        folders.size(), [&] { return sink.is_cancelled(); }, read);
     Folders next_level;
     for (const Folders& of_thread : found)
         next_level.insert(next_level.end(), of_thread.begin(), of_thread.end());
@@ -117,7 +111,7 @@ void precache_folders(std::span<const std::shared_ptr<MVItemBase>> items, ItemPr
     for (const auto& item : items)
         if (item->is_folder())
             folders.push_back(static_cast<const MVItemFolder*>(item.get()));
-    for (int pass = 0; pass < max_walk_level; ++pass) {
+    for (int pass = 0; pass < max_folder_level; ++pass) {
         keep_unread(folders);
         if (folders.empty() || sink.is_cancelled())
             return;

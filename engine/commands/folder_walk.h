@@ -11,9 +11,6 @@ class ItemFilter;
 class ItemProgressSink;
 class MVItemsSet;
 
-/// No walk goes deeper than this many levels below a selected folder.
-inline constexpr int max_walk_level = 1024;
-
 /// The selected items with each folder replaced by the files below it, in key order. Links to folders are not
 /// followed below a selected folder. `max_depth` 1 takes the files directly in a selected folder, 0 has no limit. A
 /// folder below a selected one that doesn't pass `folder_filter` (may be null) is left out with all it holds. What

@@ -92,10 +92,12 @@ void VellumarkCommand::generate_text(std::u16string& text, const MVItemsSet& sel
         context.output.append(fields_.start_text);
     bool is_first = true;
     for (const auto& item : items) {
+        if (sink.is_cancelled())
+            break;
         if (!is_first)
             context.output.append(fields_.separator);
         is_first = false;
-        if (!append_item(context, *item, 0) || sink.is_cancelled())
+        if (!append_item(context, *item, 0))
             break;
     }
     if (uses_start_and_end)

@@ -36,7 +36,6 @@ std::u16string MVCommandBase::display_name(bool one_item) const
 
 bool MVCommandBase::has_uncommitted_changes() const
 {
-    // Names are compared once more for classes whose own comparison leaves them out.
     return !committed_ || !equals(*committed_) || !MVCommandBase::equals(*committed_);
 }
 

@@ -4,13 +4,6 @@
 
 #include <algorithm>
 
-std::u16string lower_cased(std::u16string_view text)
-{
-    std::u16string result(text);
-    std::ranges::transform(result, result.begin(), to_lower);
-    return result;
-}
-
 std::vector<std::u16string> parse_extensions(std::u16string_view list)
 {
     std::vector<std::u16string> extensions;

@@ -4,9 +4,6 @@
 #include <string_view>
 #include <vector>
 
-/// The text with ASCII letters in lower case.
-std::u16string lower_cased(std::u16string_view text);
-
 /// The extensions of a lower-cased list separated by ";": of each piece one leading dot goes, then the blanks around
 /// it; empty pieces are left out.
 std::vector<std::u16string> parse_extensions(std::u16string_view list);

@@ -1,7 +1,7 @@
 #include "engine/filters/extensions_preset.h"
 
-#include "engine/filters/extension_list.h"
 #include "engine/text/json_access.h"
+#include "engine/text/letters.h"
 #include "engine/text/utf.h"
 #include "platform/random_id.h"
 

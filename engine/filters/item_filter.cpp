@@ -4,6 +4,7 @@
 #include "engine/filters/name_expression.h"
 #include "engine/filters/wildcard.h"
 #include "engine/text/json_access.h"
+#include "engine/text/letters.h"
 #include "engine/text/utf.h"
 
 #include <algorithm>

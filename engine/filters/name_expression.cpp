@@ -1,5 +1,6 @@
 #include "engine/filters/name_expression.h"
 
+#include "engine/filters/ecmascript_pattern.h"
 #include "engine/text/letters.h"
 
 #include <boost/regex.hpp>
@@ -12,7 +13,6 @@ struct NameExpression::Compiled {
 
 namespace {
 
-/// One wide character a UTF-16 unit.
 std::wstring widened(std::u16string_view text)
 {
     return {text.begin(), text.end()};
@@ -25,7 +25,7 @@ NameExpression::NameExpression(std::u16string_view pattern)
     try {
         auto compiled = std::make_unique<Compiled>();
         compiled->expression.imbue(letters_locale());
-        compiled->expression.assign(widened(pattern), boost::regex::ECMAScript | boost::regex::icase);
+        compiled->expression.assign(from_ecmascript(pattern), boost::regex::perl | boost::regex::icase);
         compiled_ = std::move(compiled);
     } catch (const std::exception&) {
         // What can't be compiled is an invalid expression, whatever the library's reason.

@@ -43,3 +43,9 @@ MVItemBase& ChildMap::insert(const std::shared_ptr<MVItemBase>& item)
 {
     return **items_.insert(items_.end(), item);
 }
+
+void ChildMap::release_into(std::vector<std::shared_ptr<MVItemBase>>& items)
+{
+    while (!items_.empty())
+        items.push_back(std::move(items_.extract(items_.begin()).value()));
+}

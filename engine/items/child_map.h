@@ -5,6 +5,7 @@
 #include <memory>
 #include <set>
 #include <string_view>
+#include <vector>
 
 /// A folder's children in the order of their keys: the names in lower case, compared by UTF-16 unit, the shorter
 /// first on a common prefix. Keys are compared where they are, in the names, so that a child costs no second text.
@@ -20,12 +21,14 @@ class ChildMap
     using Items = std::set<std::shared_ptr<MVItemBase>, ByKey>;
 
 public:
+    using const_iterator = Items::const_iterator;
+
     /// Whether the key of one name comes before that of another.
     static bool key_less(std::u16string_view left, std::u16string_view right);
 
-    Items::const_iterator begin() const { return items_.begin(); }
+    const_iterator begin() const { return items_.begin(); }
 
-    Items::const_iterator end() const { return items_.end(); }
+    const_iterator end() const { return items_.end(); }
 
     std::size_t size() const { return items_.size(); }
 
@@ -37,6 +40,9 @@ public:
     /// The child that now has the item's key: `item`, or the one that had it before, which stays. Constant time when
     /// items come in key order.
     MVItemBase& insert(const std::shared_ptr<MVItemBase>& item);
+
+    /// Moves all children to the end of `items`.
+    void release_into(std::vector<std::shared_ptr<MVItemBase>>& items);
 
 private:
     Items items_;

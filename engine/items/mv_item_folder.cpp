@@ -35,10 +35,24 @@ std::vector<std::shared_ptr<MVItemBase>> read_folder(const MVItemFolder& folder)
 
 }
 
+MVItemFolder::~MVItemFolder()
+{
+    std::vector<std::shared_ptr<MVItemBase>> released;
+    children_.release_into(released);
+    while (!released.empty()) {
+        const std::shared_ptr<MVItemBase> item = std::move(released.back());
+        released.pop_back();
+        if (item->is_folder() && item.use_count() == 1)
+            static_cast<const MVItemFolder&>(*item).children_.release_into(released);
+    }
+}
+
 void MVItemFolder::load_children() const
 {
-    if (!children_loaded_.exchange(true, std::memory_order_acq_rel))
-        merge(read_folder(*this));
+    if (children_loaded_)
+        return;
+    children_loaded_ = true;
+    merge(read_folder(*this));
 }
 
 void MVItemFolder::merge(std::vector<std::shared_ptr<MVItemBase>> entries) const

@@ -3,12 +3,21 @@
 #include "engine/items/child_map.h"
 #include "engine/items/mv_item_base.h"
 
-#include <atomic>
+#include <cstdint>
 
+/// Nothing is read or written deeper than this many levels below a selected folder.
+inline constexpr int max_folder_level = 1024;
+
+/// A folder with its children, which are read on demand.
 class MVItemFolder final : public MVItemBase
 {
 public:
     MVItemFolder(MVItemInfo info, const MVItemFolder* parent) : MVItemBase(std::move(info), parent) {}
+
+    /// Takes the tree below apart without recursion: paths can be made of any number of components.
+    ~MVItemFolder() override;
+    MVItemFolder(const MVItemFolder&) = delete;
+    MVItemFolder& operator=(const MVItemFolder&) = delete;
 
     bool is_folder() const override { return true; }
 
@@ -17,8 +26,8 @@ public:
     /// one folder, nor may another thread use the children meanwhile.
     void load_children() const;
 
-    /// May be asked from any thread; true from the beginning of the read on.
-    bool children_loaded() const { return children_loaded_.load(std::memory_order_acquire); }
+    /// True from the beginning of the read on.
+    bool children_loaded() const { return children_loaded_; }
 
     const ChildMap& children() const { return children_; }
 
@@ -30,5 +39,5 @@ private:
 
     /// Filled on demand, through items that are const to whoever writes a text.
     mutable ChildMap children_;
-    mutable std::atomic<bool> children_loaded_ = false;
+    mutable bool children_loaded_ = false;
 };

@@ -5,7 +5,7 @@
 #include "engine/text/letters.h"
 #include "platform/files.h"
 
-#include <stdexcept>
+#include <algorithm>
 
 namespace {
 
@@ -36,7 +36,7 @@ std::shared_ptr<MVItemFolder> child_folder(MVItemFolder& parent, std::u16string_
             throw MVItemException(std::u16string(path), error);
         return std::static_pointer_cast<MVItemFolder>(child);
     }
-    const auto made = make_intermediate(name, parent);
+    auto made = make_intermediate(name, parent);
     parent.insert(made);
     return made;
 }
@@ -59,65 +59,35 @@ MVItemsSet::MVItemsSet(std::span<const std::u16string> paths) : MVItemsSet()
 
 void MVItemsSet::add_path(std::u16string_view path)
 {
-    forget_states();
     const std::size_t head = head_length(path);
     if (head == 0)
         throw MVItemException(std::u16string(path), MVItemError::PathNotAbsolute);
     std::shared_ptr<MVItemFolder> folder =
         child_folder(*root_, path.substr(0, head), path, MVItemError::RootFolderError);
     std::size_t at = head + 1;
-    if (at >= path.size()) {
-        items_.push_back(std::move(folder));
-        return;
-    }
-    for (std::size_t end; (end = path.find(u'\\', at)) != path.npos; at = end + 1)
+    if (at >= path.size())
+        return select(std::move(folder));
+    for (std::size_t end = 0; (end = path.find(u'\\', at)) != path.npos; at = end + 1)
         folder = child_folder(*folder, path.substr(at, end - at), path, MVItemError::SubfolderIsNoFolder);
     if (at == path.size())
         return;
     const auto attributes = platform::file_attributes(add_long_path_prefix(path));
     if (!attributes)
-        throw std::runtime_error("GetFileAttributesEx failed");
-    const auto item = make_item(MVItemInfo::of(std::u16string(path.substr(at)), *attributes), folder.get());
+        throw AttributesUnreadable();
+    auto item = make_item(MVItemInfo::of(std::u16string(path.substr(at)), *attributes), folder.get());
     folder->insert(item);
-    items_.push_back(item);
+    select(std::move(item));
+}
+
+void MVItemsSet::select(std::shared_ptr<MVItemBase> item)
+{
+    (item->is_folder() ? has_folders_ : has_files_) = true;
+    has_links_ = has_links_ || item->is_link();
+    items_.push_back(std::move(item));
 }
 
 void MVItemsSet::reset()
 {
     items_.clear();
-    forget_states();
-}
-
-void MVItemsSet::forget_states()
-{
-    has_file_state_ = has_folder_state_ = has_link_state_ = -1;
-}
-
-bool MVItemsSet::has_files() const
-{
-    if (has_file_state_ >= 0)
-        return has_file_state_ == 1;
-    has_file_state_ = has_folder_state_ = has_link_state_ = 0;
-    for (const auto& item : items_) {
-        (item->is_folder() ? has_folder_state_ : has_file_state_) = 1;
-        if (item->is_link())
-            has_link_state_ = 1;
-        if (has_file_state_ + has_folder_state_ + has_link_state_ == 3)
-            break;
-    }
-    return has_file_state_ == 1;
-}
-
-bool MVItemsSet::has_folders() const
-{
-    if (has_folder_state_ < 0)
-        has_files();
-    return has_folder_state_ == 1;
-}
-
-bool MVItemsSet::has_links() const
-{
-    if (has_link_state_ < 0)
-        has_files();
-    return has_link_state_ == 1;
+    has_files_ = has_folders_ = has_links_ = false;
 }

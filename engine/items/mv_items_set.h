@@ -4,24 +4,33 @@
 
 #include <memory>
 #include <span>
+#include <stdexcept>
 #include <string_view>
 #include <vector>
 
+/// The attributes of a path that was to be selected can't be read: "GetFileAttributesEx failed".
+class AttributesUnreadable : public std::runtime_error
+{
+public:
+    AttributesUnreadable() : std::runtime_error("GetFileAttributesEx failed") {}
+};
+
 /// The current selection: a tree of items below a nameless root, and the selected items in order of arrival. The
-/// tree is kept for the set's whole life, so that nothing is read twice. Nothing here is guarded: while a text is
-/// generated from the set it must not change.
+/// tree is kept for the set's whole life, so that no node of it is read twice. Nothing here is guarded: while a text
+/// is generated from the set it must not change.
 class MVItemsSet
 {
 public:
     MVItemsSet();
+    /// With these paths selected, in their order; throws what `add_path` throws.
     explicit MVItemsSet(std::u16string_view path);
     explicit MVItemsSet(std::span<const std::u16string> paths);
 
     /// Selects an absolute path in drive or server form and reads its attributes; folders on the way are made
     /// without a look at the disk. A drive or server alone selects the top-level node; a path that ends in a
     /// backslash below that selects nothing. A path selected twice yields two items.
-    /// Throws MVItemException for a malformed path and std::runtime_error "GetFileAttributesEx failed" when the
-    /// attributes can't be read; what was selected before stays.
+    /// Throws MVItemException for a malformed path and AttributesUnreadable when the attributes can't be read; what
+    /// was selected before stays.
     void add_path(std::u16string_view path);
 
     /// Empties the selection; the tree stays with all it has read.
@@ -31,15 +40,16 @@ public:
 
     const MVItemFolder& root() const { return *root_; }
 
-    bool has_files() const;
-    bool has_folders() const;
-    bool has_links() const;
+    bool has_files() const { return has_files_; }
+
+    bool has_folders() const { return has_folders_; }
+
+    bool has_links() const { return has_links_; }
 
 private:
-    void forget_states();
+    void select(std::shared_ptr<MVItemBase> item);
 
     std::shared_ptr<MVItemFolder> root_;
     std::vector<std::shared_ptr<MVItemBase>> items_;
-    /// -1 while not computed, else 0 or 1.
-    mutable std::int32_t has_file_state_ = -1, has_folder_state_ = -1, has_link_state_ = -1;
+    bool has_files_ = false, has_folders_ = false, has_links_ = false;
 };

@@ -7,12 +7,6 @@
 #include "engine/text/json_access.h"
 #include "engine/text/utf.h"
 
-namespace {
-
-constexpr int max_level = 1024;
-
-}
-
 ItemPartFolderContents::ItemPartFolderContents(const boost::json::object& json)
     : indent_text_(json_access::optional_text(json, "indentText")),
       start_text_(json_access::optional_text(json, "startText")),
@@ -27,7 +21,7 @@ boost::json::object ItemPartFolderContents::to_json() const
 
 void ItemPartFolderContents::append_text(TextRunContext& context, const MVItemBase& item, int level) const
 {
-    if (!item.is_folder() || (level >= 1 && item.is_link()) || level + 1 > max_level || !context.command)
+    if (!item.is_folder() || (level >= 1 && item.is_link()) || level + 1 > max_folder_level || !context.command)
         return;
     context.sink->report_item(item.full_path());
     const auto& folder = static_cast<const MVItemFolder&>(item);

@@ -29,7 +29,12 @@ void TextOutput::open()
     parent_->open();
     parent_->append(frame_.start);
     indent_begin_ = page_->indents.size();
-    page_->indents += frame_.indent;
+    const std::u16string outer = page_->indents;
+    for (const char16_t unit : frame_.indent) {
+        page_->indents += unit;
+        if (unit == u'\n')
+            page_->indents += outer;
+    }
 }
 
 void TextOutput::write_lines(std::u16string_view text)

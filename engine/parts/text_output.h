@@ -37,7 +37,7 @@ private:
     /// Shared by all outputs of one text.
     struct Page {
         std::u16string text;
-        std::u16string indents; ///< of the open outputs, from the outside in
+        std::u16string indents; ///< of the open outputs, from the outside in, each indented by those before it
         std::size_t due = 0;    ///< `indents` from here on has yet to be written before the next character
     };
 

@@ -8,22 +8,10 @@
 
 namespace {
 
-std::u16string upper(std::u16string text)
-{
-    std::ranges::transform(text, text.begin(), to_upper);
-    return text;
-}
-
-std::u16string lower(std::u16string text)
-{
-    std::ranges::transform(text, text.begin(), to_lower);
-    return text;
-}
-
 /// The first letter in upper case, all else in lower case.
-std::u16string capitalised(std::u16string word)
+std::u16string capitalised(std::u16string_view text)
 {
-    word = lower(std::move(word));
+    std::u16string word = lower_cased(text);
     if (const auto letter = std::ranges::find_if(word, is_letter); letter != word.end())
         *letter = to_upper(*letter);
     return word;
@@ -34,10 +22,10 @@ std::u16string joined_words(std::u16string_view text, std::u16string_view joint,
 {
     std::u16string result;
     std::size_t index = 0;
-    for (std::u16string& word : split_words(text)) {
+    for (const std::u16string& word : split_words(text)) {
         if (index > 0)
             result += joint;
-        result += change(std::move(word), index++);
+        result += change(word, index++);
     }
     return result;
 }
@@ -46,20 +34,20 @@ std::u16string joined_words(std::u16string_view text, std::u16string_view joint,
 
 std::u16string MVCaseTypeUtils::convert(CaseType type, std::u16string_view text)
 {
-    const auto to_upper_word = [](std::u16string word, std::size_t) { return upper(std::move(word)); };
-    const auto to_lower_word = [](std::u16string word, std::size_t) { return lower(std::move(word)); };
+    const auto to_upper_word = [](std::u16string_view word, std::size_t) { return upper_cased(word); };
+    const auto to_lower_word = [](std::u16string_view word, std::size_t) { return lower_cased(word); };
     switch (type) {
     case CaseType::Unchanged: break;
-    case CaseType::UpperCase: return upper(std::u16string(text));
-    case CaseType::LowerCase: return lower(std::u16string(text));
+    case CaseType::UpperCase: return upper_cased(text);
+    case CaseType::LowerCase: return lower_cased(text);
     case CaseType::TitleCase: return title_case(text);
     case CaseType::SentenceCase: return sentence_case(text);
     case CaseType::CamelCase:
-        return joined_words(text, u"", [](std::u16string word, std::size_t index) {
-            return index == 0 ? lower(std::move(word)) : capitalised(std::move(word));
+        return joined_words(text, u"", [](std::u16string_view word, std::size_t index) {
+            return index == 0 ? lower_cased(word) : capitalised(word);
         });
     case CaseType::PascalCase:
-        return joined_words(text, u"", [](std::u16string word, std::size_t) { return capitalised(std::move(word)); });
+        return joined_words(text, u"", [](std::u16string_view word, std::size_t) { return capitalised(word); });
     case CaseType::SnakeCase: return joined_words(text, u"_", to_lower_word);
     case CaseType::SnakeCaseUpper: return joined_words(text, u"_", to_upper_word);
     case CaseType::KebabCase: return joined_words(text, u"-", to_lower_word);

@@ -60,9 +60,11 @@ std::int32_t optional_int32(const json::object& object, std::string_view key, st
 
 std::int32_t optional_count(const json::object& object, std::string_view key, std::int32_t missing)
 {
-    if (const json::value* value = object.if_contains(key))
-        static_cast<void>(value->to_number<std::uint32_t>());
-    return optional_int32(object, key, missing);
+    const json::value* value = object.if_contains(key);
+    if (!value)
+        return missing;
+    const auto count = value->to_number<std::uint32_t>();
+    return count <= INT32_MAX ? static_cast<std::int32_t>(count) : value->to_number<std::int32_t>();
 }
 
 }

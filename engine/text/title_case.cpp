@@ -17,8 +17,7 @@ bool is_minor_word(const std::u16string& lower_word)
 
 std::u16string titled(std::u16string_view word, bool always_capital)
 {
-    std::u16string result(word);
-    std::ranges::transform(result, result.begin(), to_lower);
+    std::u16string result = lower_cased(word);
     if (always_capital || !is_minor_word(result))
         result.front() = to_upper(result.front());
     return result;

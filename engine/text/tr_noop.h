@@ -1,5 +1,5 @@
 #pragma once
 
-/// Marks a text that the interface translates when it shows it. The context is for the translation tools alone:
-/// lupdate reads it through its alias for QT_TRANSLATE_NOOP.
+/// Marks a text that the interface translates when it shows it; the context is for the translation tools alone. Has
+/// to stand in full where the text is: those tools expand no macros.
 #define TR_NOOP(context, text) text

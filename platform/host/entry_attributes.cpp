@@ -5,6 +5,8 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include <cerrno>
+
 namespace platform {
 
 namespace {
@@ -56,7 +58,7 @@ bool exists(std::u16string_view path)
 {
     const HostLocation location(path);
     struct stat target;
-    return fstatat(location.folder(), location.name(), &target, 0) == 0;
+    return fstatat(location.folder(), location.name(), &target, 0) == 0 || (errno != ENOENT && errno != ENOTDIR);
 }
 
 }

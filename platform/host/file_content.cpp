@@ -14,6 +14,9 @@ namespace platform {
 
 namespace {
 
+/// What is larger is no file of ours; a device or a sparse file could be endless.
+constexpr std::size_t largest_file = std::size_t{2} << 30;
+
 std::string words(int error)
 {
     const char* text = strerrordesc_np(error);
@@ -25,8 +28,16 @@ bool read_rest(int descriptor, std::string& content)
 {
     struct stat info;
     const bool has_size = fstat(descriptor, &info) == 0 && info.st_size > 0;
+    if (has_size && static_cast<std::size_t>(info.st_size) > largest_file) {
+        errno = EFBIG;
+        return false;
+    }
     content.resize(has_size ? static_cast<std::size_t>(info.st_size) + 1 : 65'536);
     for (std::size_t used = 0;;) {
+        if (used > largest_file) {
+            errno = EFBIG;
+            return false;
+        }
         if (used == content.size())
             content.resize(used * 2);
         const ssize_t count = ::read(descriptor, content.data() + used, content.size() - used);

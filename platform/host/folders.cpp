@@ -6,6 +6,7 @@
 #include "platform/paths.h"
 
 #include <boost/filesystem/exception.hpp>
+#include <boost/filesystem/operations.hpp>
 #include <boost/filesystem/path.hpp>
 
 #include <dirent.h>
@@ -14,6 +15,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <climits>
 #include <memory>
 
 namespace platform {
@@ -58,7 +60,8 @@ FileAttributes bare_attributes(const dirent& entry)
                                               boost::system::error_code(error, boost::system::system_category()));
 }
 
-/// Opens the folder `name`, after creating it when it is missing. Without a descriptor errno has the reason.
+/// Paths too long for one call: opens the folder `name`, after creating it when it is missing. Without a descriptor
+/// errno has the reason.
 Descriptor enter_or_create(int folder, const char* name)
 {
     constexpr int flags = O_PATH | O_DIRECTORY | O_CLOEXEC;
@@ -100,6 +103,13 @@ void create_directories(std::u16string_view folder)
     const std::string host_path = to_host_path(folder);
     if (host_path.empty())
         throw_not_created(host_path, ENOENT);
+    if (host_path.size() < PATH_MAX) {
+        boost::system::error_code error;
+        boost::filesystem::create_directories(host_path, error);
+        if (error)
+            throw_not_created(host_path, error.value());
+        return;
+    }
     Descriptor current(open("/", O_PATH | O_DIRECTORY | O_CLOEXEC));
     for (std::size_t start = 0, end = 0; current && start < host_path.size(); start = end + 1) {
         end = std::min(host_path.find('/', start), host_path.size());

@@ -5,6 +5,9 @@
 
 namespace platform {
 
+/// What stands for a backslash in a host name.
+constexpr char16_t escaped_backslash = 0xF05C;
+
 /// `from_host_name` for whole paths too: a slash becomes `slash`.
 std::u16string decode_host_bytes(std::string_view bytes, char16_t slash);
 

@@ -1,6 +1,7 @@
 #include "platform/paths.h"
 
-#include "platform/host/utf16.h"
+#include "platform/host/host_names.h"
+#include "platform/utf.h"
 
 namespace platform {
 

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 #include <thread>
 
@@ -13,25 +14,43 @@ namespace {
 const std::string checksums = "{'fileParts':[{'item-type':'checksum','checksum-type':'sha1'},{'item-type':'checksum',"
                               "'checksum-type':'crc32','uppercase':true}]}";
 
-TEST(RunParallel, UsesNoMoreThreadsThanWorkAndPassesExceptionsOn)
+TEST(ForEachParallel, JoinsAllThreadsAndPassesTheFirstExceptionOn)
 {
-    EXPECT_EQ(thread_count(0), 1u);
-    EXPECT_EQ(thread_count(1), 1u);
-    EXPECT_LE(thread_count(1'000'000), std::max(1u, std::thread::hardware_concurrency()));
-    std::atomic<int> ended = 0;
-    const auto work = [&](std::size_t thread) {
-        if (thread == 2)
+    std::atomic<int> begun = 0, ended = 0;
+    const auto work = [&](std::size_t index, std::size_t) {
+        ++begun;
+        if (index == 1)
             throw std::runtime_error("from a worker");
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
         ++ended;
     };
     try {
-        run_parallel(4, work);
+        for_each_parallel(
+            10'000, [] { return false; }, work);
         FAIL();
     } catch (const std::runtime_error& error) {
         EXPECT_STREQ(error.what(), "from a worker");
-        EXPECT_EQ(ended, 3) << "every thread is joined first";
+        EXPECT_EQ(ended + 1, begun) << "every thread is joined first";
+        EXPECT_LT(begun, 10'000) << "no work is begun that nobody will use";
     }
+}
+
+TEST(ForEachParallel, DoesEachUnitOnceUnlessStopped)
+{
+    std::vector<std::atomic<int>> done(1000);
+    const auto work = [&](std::size_t index, std::size_t thread) {
+        EXPECT_LT(thread, thread_count(1000));
+        ++done[index];
+    };
+    for_each_parallel(
+        done.size(), [] { return false; }, work);
+    EXPECT_TRUE(std::ranges::all_of(done, [](const auto& count) { return count == 1; }));
+    for_each_parallel(
+        done.size(), [] { return true; }, work);
+    EXPECT_TRUE(std::ranges::all_of(done, [](const auto& count) { return count == 1; }));
+    for_each_parallel(
+        0, [] { return false; }, work);
+    EXPECT_EQ(thread_count(1), 1u);
 }
 
 TEST(Workers, ExceptionsOfTheSinkLeaveTheRun)
@@ -71,12 +90,12 @@ TEST(Checksums, AreComputedOnceAFileAndTypeWithoutRaces)
 TEST(Checksums, ACancelledRunKeepsWhatWasDone)
 {
     const TempFolder folder;
+    const std::size_t workers = thread_count(1000);
     std::vector<std::u16string> paths;
-    for (int i = 0; i < 10; ++i)
+    for (std::size_t i = 0; i < 4 * workers; ++i)
         paths.push_back(folder.write("f" + std::to_string(i), std::string(200'000, 'x')));
     const MVItemsSet set(paths);
     RecordingSink sink;
-    const std::size_t workers = thread_count(10);
     sink.stop = [&] {
         const std::lock_guard lock(sink.mutex);
         return sink.items.size() > workers;
@@ -115,7 +134,7 @@ TEST(GenerateText, StopsBetweenParts)
     EXPECT_EQ(generated(command, set, whole), "<a1,b1>");
     RecordingSink cancelled;
     cancelled.stop = [] { return true; };
-    EXPECT_EQ(generated(command, set, cancelled), "<a>");
+    EXPECT_EQ(generated(command, set, cancelled), "<>") << "no part runs, for a part can take long";
     EXPECT_LT(cancelled.questions, whole.questions);
 }
 

@@ -73,6 +73,18 @@ TEST(ItemFilter, Matches)
         {Mode::Regex, u"^[[:alpha:]]$", u"\u0416", true},
         {Mode::Regex, u"(", u"(", false},
         {Mode::Regex, u"", u"x", true},
+        {Mode::Regex, u"don\\'t", u"DON'T.txt", true},
+        {Mode::Regex, u"a\\<b\\>\\`", u"a<b>`", true},
+        {Mode::Regex, u"^\\u00e9\\x2e[\\u0041-\\u0043]$", u"\u00E9.b", true},
+        {Mode::Regex, u"[\\u00e0-\\u00ff]", u"abc", false},
+        {Mode::Regex, u"[]a]", u"a", false},
+        {Mode::Regex, u"^[^]$", u"\n", true},
+        {Mode::Regex, u"^[^\\]a-]+$", u"b.c", true},
+        {Mode::Regex, u"[\\b]|\\0", u"b0", false},
+        {Mode::Regex, u"^(?:a|b){2}(?=c)(?!d)[c\\-]$", u"AbC", true},
+        {Mode::Regex, u"^(.)\\1*?$", u"aaa", true},
+        {Mode::Regex, u"[[:digit:]]x", u"7x", true},
+        {Mode::Regex, u"\\.\\*\\/\\-", u".*/-", true},
     };
     for (const Case& c : cases) {
         ItemFilter made = filter(c.mode, c.pattern);
@@ -107,7 +119,9 @@ TEST(ItemFilter, KnowsInvalidPatterns)
     const std::vector<std::tuple<Mode, std::u16string, bool>> cases{
         {Mode::Extensions, u"", true},     {Mode::Extensions, u"a;b c", true}, {Mode::Extensions, u"a*", false},
         {Mode::Extensions, u"a\t", false}, {Mode::Wildcard, u"*?;", true},     {Mode::Wildcard, u"a|b", false},
-        {Mode::Wildcard, u"a\\b", false},  {Mode::Regex, u"[a-", false},       {Mode::Regex, u"[a-z]", true},
+        {Mode::Wildcard, u"a\\b", false},  {Mode::Regex, u"[a-", false},       {Mode::Regex, u"a++", false},
+        {Mode::Regex, u"(?i)a", false},    {Mode::Regex, u"\\Qa", false},      {Mode::Regex, u"a\\", false},
+        {Mode::Regex, u"\\u12g4", false},  {Mode::Regex, u"(?<=a)b", false},   {Mode::Regex, u"[a-z]", true},
         {Mode::Regex, u"", true}};
     for (const auto& [mode, pattern, valid] : cases)
         EXPECT_EQ(filter(mode, pattern).is_pattern_valid(), valid) << to_utf8(pattern);

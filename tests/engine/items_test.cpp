@@ -122,6 +122,20 @@ TEST(AddPath, ReadsAttributesOfLinksAndFolders)
     EXPECT_TRUE(set.has_files() && set.has_folders() && set.has_links());
 }
 
+TEST(AddPath, SurvivesAnyNumberOfComponents)
+{
+    std::u16string path = u"\\\\no-such-server\\";
+    for (int i = 0; i < 1'000'000; ++i)
+        path += u"a\\";
+    MVItemsSet set(u"\\\\no-such-server");
+    EXPECT_EQ(error_of(path + u"x", set), "GetFileAttributesEx failed");
+    RecordingSink sink;
+    EXPECT_EQ(generated(make_command("{'fileParts':[{'item-type':'checksum','checksum-type':'md5'},{'item-type':"
+                                     "'folder-files'}]}"),
+                        set, sink),
+              "");
+}
+
 TEST(LoadChildren, MergesIntoWhatTheTreeHas)
 {
     const TempFolder folder;

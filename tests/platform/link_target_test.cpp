@@ -1,5 +1,5 @@
+#include "host_root.h"
 #include "platform/files.h"
-#include "platform/host_root.h"
 #include "support/temp_folder.h"
 
 #include <gtest/gtest.h>
@@ -51,7 +51,6 @@ TEST(LinkTarget, AtMostFortyLinks)
         folder.make_link("link" + std::to_string(i), "link" + std::to_string(i - 1));
     EXPECT_EQ(platform::link_target(folder.path("link40")), folder.path("link0"));
     EXPECT_EQ(platform::link_target(folder.path("link41")), u"");
-    EXPECT_FALSE(platform::exists(folder.path("link41")));
 }
 
 TEST(LinkTarget, ServerForm)
