@@ -14,7 +14,7 @@ declare -Ar groups=(
         libboost-json1.81-dev libboost-filesystem1.81-dev libboost-regex1.81-dev libboost-program-options1.81-dev"
     [test]="libgtest-dev python3"
     [lint]="git python3 clang-format clang-tidy-16 shellcheck"
-    [bench]="libbenchmark-dev hyperfine xxhash rhash findutils time"
+    [bench]="libbenchmark-dev python3 openssl xxhash rhash findutils"
 )
 
 # Prints those of the packages, one a line, that dpkg doesn't have whole.

@@ -9,44 +9,59 @@
 
 namespace {
 
-#define TEXT(text) TR_NOOP("BuiltinCommandInfo", text)
-
 constexpr std::array<BuiltinCommandInfo, 9> infos{{
-    {CommandType::Vellumark, TEXT("Vellumark"), TEXT("Copy Filename"),
-     TEXT("Copies just the names of each selected file or folder, one per line."), BuiltinShowRule::None, false},
-    {CommandType::MultiRename, TEXT("Multi Rename"), "",
-     TEXT("Brings up a dialog that lets you make simple changes to the names of all the selected files, such as "
-          "changing all the text the filenames have in common."),
+    {CommandType::Vellumark, TR_NOOP("BuiltinCommandInfo", "Vellumark"),
+     TR_NOOP("BuiltinCommandInfo", "Copy Filename"),
+     TR_NOOP("BuiltinCommandInfo", "Copies just the names of each selected file or folder, one per line."),
+     BuiltinShowRule::None, false},
+    {CommandType::MultiRename, TR_NOOP("BuiltinCommandInfo", "Multi Rename"), "",
+     TR_NOOP("BuiltinCommandInfo",
+             "Brings up a dialog that lets you make simple changes to the names of all the selected files, such as "
+             "changing all the text the filenames have in common."),
      BuiltinShowRule::SeveralItems, true},
-    {CommandType::PasteFilename, TEXT("Paste Filename"), "",
-     TEXT("Renames the selected file with the name from the clipboard."), BuiltinShowRule::OneItem, true},
-    {CommandType::PasteFilenameNoExt, TEXT("Paste Filename (No Ext.)"), "",
-     TEXT("Renames the selected file with the name from the clipboard but leaves the file extension unchanged."),
+    {CommandType::PasteFilename, TR_NOOP("BuiltinCommandInfo", "Paste Filename"), "",
+     TR_NOOP("BuiltinCommandInfo", "Renames the selected file with the name from the clipboard."),
      BuiltinShowRule::OneItem, true},
-    {CommandType::CopyFilenameAndDelete, TEXT("Copy Filename and Delete"), "",
-     TEXT("Copies the name of the selected file, then deletes it. This can be used to replace one file with "
-          "another, by using <i>Copy Filename and Delete</i> on the file to replace, then <i>Paste Filename</i> on "
-          "the replacement file."),
+    {CommandType::PasteFilenameNoExt, TR_NOOP("BuiltinCommandInfo", "Paste Filename (No Ext.)"), "",
+     TR_NOOP("BuiltinCommandInfo",
+             "Renames the selected file with the name from the clipboard but leaves the file extension unchanged."),
+     BuiltinShowRule::OneItem, true},
+    {CommandType::CopyFilenameAndDelete, TR_NOOP("BuiltinCommandInfo", "Copy Filename and Delete"), "",
+     TR_NOOP(
+         "BuiltinCommandInfo",
+         "Copies the name of the selected file, then deletes it. This can be used to replace one file with "
+         "another, by using <i>Copy Filename and Delete</i> on the file to replace, then <i>Paste Filename</i> on "
+         "the replacement file."),
      BuiltinShowRule::OneFile, true},
-    {CommandType::ExtractFolder, TEXT("Extract Folders"), TEXT("Extract Folder"),
-     TEXT("Moves all the files and subfolders in the selected folder into the parent folder, then deletes the "
-          "selected folder."),
+    {CommandType::ExtractFolder, TR_NOOP("BuiltinCommandInfo", "Extract Folders"),
+     TR_NOOP("BuiltinCommandInfo", "Extract Folder"),
+     TR_NOOP("BuiltinCommandInfo",
+             "Moves all the files and subfolders in the selected folder into the parent folder, then deletes the "
+             "selected folder."),
      BuiltinShowRule::AFolder, false},
-    {CommandType::DeleteEmptyFolders, TEXT("Delete Empty Folders"), "",
-     TEXT("Scans the selected folder(s) and deletes any empty folders found."), BuiltinShowRule::AFolder, false},
-    {CommandType::Configure, TEXT("More Commands..."), "",
-     TEXT("Opens this dialog where you can browse the command gallery, select from the stored commands, and adjust "
-          "the options as required."),
+    {CommandType::DeleteEmptyFolders, TR_NOOP("BuiltinCommandInfo", "Delete Empty Folders"), "",
+     TR_NOOP("BuiltinCommandInfo", "Scans the selected folder(s) and deletes any empty folders found."),
+     BuiltinShowRule::AFolder, false},
+    {CommandType::Configure, TR_NOOP("BuiltinCommandInfo", "More Commands..."), "",
+     TR_NOOP(
+         "BuiltinCommandInfo",
+         "Opens this dialog where you can browse the command gallery, select from the stored commands, and adjust "
+         "the options as required."),
      BuiltinShowRule::None, true},
-    {CommandType::Invalid, TEXT("Invalid"), "", TEXT("Error: invalid command type."), BuiltinShowRule::None, false},
+    {CommandType::Invalid, TR_NOOP("BuiltinCommandInfo", "Invalid"), "",
+     TR_NOOP("BuiltinCommandInfo", "Error: invalid command type."), BuiltinShowRule::None, false},
 }};
+
+static_assert(infos.size() == command_types.size() + 1, "every type has a row, the invalid one the last");
 
 constexpr std::array<std::string_view, 5> rule_texts{
     "",
-    TEXT("Only shown if exactly one file is selected and the clipboard contains text that is valid for a filename."),
-    TEXT("Only shown if a folder is selected."),
-    TEXT("Only shown if exactly one file is selected."),
-    TEXT("Only shown if more than one file is selected."),
+    TR_NOOP(
+        "BuiltinCommandInfo",
+        "Only shown if exactly one file is selected and the clipboard contains text that is valid for a filename."),
+    TR_NOOP("BuiltinCommandInfo", "Only shown if a folder is selected."),
+    TR_NOOP("BuiltinCommandInfo", "Only shown if exactly one file is selected."),
+    TR_NOOP("BuiltinCommandInfo", "Only shown if more than one file is selected."),
 };
 
 /// Differs from the table's names where those speak of several items.
@@ -93,10 +108,10 @@ bool builtin_show_test(CommandType type, const MVItemsSet& selection)
 
 std::string_view default_command_name(CommandType type)
 {
-    return own_name(type, TEXT("Unnamed"));
+    return own_name(type, TR_NOOP("BuiltinCommandInfo", "Unnamed"));
 }
 
 std::string_view full_command_name(CommandType type)
 {
-    return own_name(type, TEXT("Vellumark Stored Command"));
+    return own_name(type, TR_NOOP("BuiltinCommandInfo", "Vellumark Stored Command"));
 }

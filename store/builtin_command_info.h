@@ -3,7 +3,6 @@
 #include "engine/commands/command_type.h"
 
 #include <cstdint>
-#include <span>
 #include <string_view>
 #include <vector>
 

@@ -172,12 +172,12 @@ StoredCommands load()
 
 void save(const CommandList& menu, const CommandList& library, const std::vector<ExtensionsPreset>& presets)
 {
+    const std::u16string path = MVConfig::get_global().path(FileKind::UserCommands);
     update_from_presets(menu, presets);
     update_from_presets(library, presets);
     const json::object file{{menu_key, menu_to_json(menu)},
                             {library_key, list_to_json(library)},
                             {presets_key, presets_to_json(presets)}};
-    const std::u16string path = MVConfig::get_global().path(FileKind::UserCommands);
     create_parent_directories(path);
     write_in_one_step(path, json::serialize(file));
 }

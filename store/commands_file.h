@@ -33,9 +33,9 @@ StoredCommands read(std::u16string_view path);
 
 /// Writes the user's file by way of a temporary file beside it, so that the old file stays whole until the new one
 /// is. File-name commands are brought up to date against `presets` first: a filter that follows a preset takes its
-/// extensions, and a link to a preset that is gone is dropped. Throws std::runtime_error "Failed to write commands to
-/// temporary file." or "Failed to replace commands file." or boost::filesystem::filesystem_error for the folder;
-/// the old file is then as it was.
+/// extensions, and a link to a preset that is gone is dropped; they keep that when writing fails. Throws
+/// std::runtime_error "Failed to write commands to temporary file." or "Failed to replace commands file." or
+/// boost::filesystem::filesystem_error for the folder; the old file is then as it was.
 void save(const CommandList& menu, const CommandList& library, const std::vector<ExtensionsPreset>& presets);
 
 }

@@ -33,7 +33,9 @@ boost::json::value read_json_file(std::u16string_view path)
     if (!content)
         throw JsonFileReaderException(std::u16string(path), JsonFileStatus::ReadError, reason);
     boost::json::error_code error;
-    boost::json::value value = boost::json::parse(*content, error);
+    // Given back as a whole: a file of many small values would otherwise take long to take apart.
+    boost::json::value value =
+        boost::json::parse(*content, error, boost::json::make_shared_resource<boost::json::monotonic_resource>());
     if (error)
         throw JsonFileReaderException(std::u16string(path), JsonFileStatus::InvalidJson, error.message());
     return value;

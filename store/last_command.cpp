@@ -4,10 +4,20 @@
 #include "store/json_file_reader.h"
 #include "store/mv_config.h"
 
-std::shared_ptr<VellumarkCommand> read_last_command()
+namespace {
+
+/// Where the user's files lie is known without the configuration, but no stored file is touched before there is one.
+std::u16string checked_path()
 {
     MVConfig::get_global();
-    const std::u16string path = last_command_path();
+    return last_command_path();
+}
+
+}
+
+std::shared_ptr<VellumarkCommand> read_last_command()
+{
+    const std::u16string path = checked_path();
     if (!platform::exists(path))
         return nullptr;
     const boost::json::value value = read_json_file(path);
@@ -17,8 +27,7 @@ std::shared_ptr<VellumarkCommand> read_last_command()
 
 void write_last_command(const VellumarkCommand& command)
 {
-    MVConfig::get_global();
-    const std::u16string path = last_command_path();
+    const std::u16string path = checked_path();
     const std::string content = boost::json::serialize(command.to_json());
     create_parent_directories(path);
     static_cast<void>(platform::write_file(path, content));

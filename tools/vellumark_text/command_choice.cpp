@@ -2,8 +2,10 @@
 
 #include "engine/text/utf.h"
 #include "store/builtin_command_info.h"
+#include "vellumark_text/printable.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 namespace {
 
@@ -39,11 +41,8 @@ std::shared_ptr<MVCommandBase> wanted_command(const StoredCommands& commands, co
 
 std::string shown_name(const MVCommandBase& command)
 {
-    std::string name =
-        command.name().empty() ? std::string(default_command_name(command.type())) : to_utf8(command.name());
-    std::ranges::replace_if(
-        name, [](char c) { return c == '\t' || c == '\n' || c == '\r'; }, ' ');
-    return name;
+    return printable(command.name().empty() ? std::string(default_command_name(command.type()))
+                                            : to_utf8(command.name()));
 }
 
 void append_list(std::string& text, std::string_view title, const CommandList& list)

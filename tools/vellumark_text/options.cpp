@@ -69,8 +69,8 @@ void check(const Options& options)
     if (options.nul_separated && !options.paths_from)
         throw UsageError("-0 goes with --paths-from");
     const bool has_paths = !options.paths.empty() || options.paths_from;
-    if (options.list && has_paths)
-        throw UsageError("--list takes no paths");
+    if (options.list && (has_paths || options.index || options.command))
+        throw UsageError("--list takes neither paths nor a command");
     if (!options.list && !has_paths)
         throw UsageError("no paths given");
 }

@@ -1,40 +1,69 @@
 #include "vellumark_text/selection_paths.h"
 
 #include "engine/text/letters.h"
-#include "engine/text/utf.h"
+#include "platform/files.h"
 #include "platform/paths.h"
 
-#include <cerrno>
-#include <cstring>
+#include <algorithm>
+#include <array>
+#include <cstdio>
 #include <filesystem>
-#include <fstream>
-#include <iostream>
-#include <iterator>
+#include <stdexcept>
 
 namespace {
 
-std::string read_all(std::istream& stream, const std::string& name)
+/// Told once, when the first relative path needs it.
+std::string_view current_folder()
 {
-    std::string content(std::istreambuf_iterator<char>(stream), {});
-    if (stream.bad())
-        throw std::runtime_error(name + ": the list of paths can't be read");
+    static const std::string folder = [] {
+        std::error_code error;
+        const auto path = std::filesystem::current_path(error);
+        if (error)
+            throw std::runtime_error("the current folder can't be told: " + error.message());
+        return path.string();
+    }();
+    return folder;
+}
+
+std::string read_standard_input()
+{
+    std::string content;
+    std::array<char, 1 << 16> buffer;
+    while (const std::size_t got = std::fread(buffer.data(), 1, buffer.size(), stdin))
+        content.append(buffer.data(), got);
+    if (std::ferror(stdin) != 0)
+        throw std::runtime_error("the list of paths can't be read from standard input");
     return content;
 }
 
 std::string read_list(const std::string& name)
 {
     if (name == "-")
-        return read_all(std::cin, "standard input");
-    std::ifstream file(name, std::ios::binary);
-    if (!file || std::filesystem::is_directory(name))
-        throw std::runtime_error(name + ": " + (file ? "Is a directory" : std::strerror(errno)));
-    return read_all(file, name);
+        return read_standard_input();
+    std::string reason;
+    if (auto content = platform::read_file(to_system_path(name), reason))
+        return *std::move(content);
+    throw std::runtime_error(name + ": " + reason);
 }
 
 bool is_drive_form(std::string_view path)
 {
     return path.size() >= 3 && is_ascii_letter(static_cast<unsigned char>(path[0])) && path[1] == ':' &&
            path[2] == '\\';
+}
+
+/// Backslashes separate names here; what is odd in a name travels as it does in a name of the host.
+std::u16string from_typed_names(std::string_view path)
+{
+    std::u16string result;
+    for (std::size_t at = 0;;) {
+        const std::size_t end = std::min(path.find('\\', at), path.size());
+        result += platform::from_host_name(path.substr(at, end - at));
+        if (end == path.size())
+            return result;
+        result += u'\\';
+        at = end + 1;
+    }
 }
 
 }
@@ -54,18 +83,20 @@ void for_each_path(const Options& options, const std::function<void(std::string_
     }
 }
 
-std::u16string to_system_path(std::string_view path, std::string_view current_folder)
+std::u16string to_system_path(std::string_view path)
 {
     if (is_drive_form(path) || path.starts_with("\\\\"))
-        return to_utf16(path);
-    return platform::from_host_path(platform::absolute_host_path(path, current_folder));
+        return from_typed_names(path);
+    return platform::from_host_path(
+        platform::absolute_host_path(path, path.starts_with('/') ? std::string_view() : current_folder()));
 }
 
-std::string current_folder()
+std::string reason_of_refusal(std::u16string_view path)
 {
+    const std::string host_path = platform::to_host_path(path);
+    if (host_path.empty())
+        return "there can be no such path here";
     std::error_code error;
-    const auto folder = std::filesystem::current_path(error);
-    if (error)
-        throw std::runtime_error("the current folder can't be told: " + error.message());
-    return folder.string();
+    static_cast<void>(std::filesystem::symlink_status(host_path, error));
+    return error ? error.message() : "the path can't be read";
 }

@@ -11,8 +11,8 @@
 void for_each_path(const Options& options, const std::function<void(std::string_view path)>& visit);
 
 /// Drive or server form of a path: a host path is made absolute and normalised by text, a path in drive or server
-/// form stays as it is.
-std::u16string to_system_path(std::string_view path, std::string_view current_folder);
+/// form stays as it is. Throws std::runtime_error for a relative path when the current folder is gone.
+std::u16string to_system_path(std::string_view path);
 
-/// The current folder as a host path. Throws std::runtime_error when it is gone.
-std::string current_folder();
+/// Why the attributes of a path in drive or server form can't be read, in words.
+std::string reason_of_refusal(std::u16string_view path);

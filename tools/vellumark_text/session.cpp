@@ -3,14 +3,22 @@
 #include "engine/items/mv_item_exception.h"
 #include "engine/text/utf.h"
 #include "platform/known_folders.h"
+#include "platform/utf.h"
+#include "store/json_file_reader.h"
 #include "store/mv_config.h"
 #include "vellumark_text/command_choice.h"
+#include "vellumark_text/printable.h"
 #include "vellumark_text/selection_paths.h"
 #include "vellumark_text/status_line.h"
 
+#include <boost/system/system_error.hpp>
+
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <new>
+#include <stdexcept>
 #include <string>
 
 namespace {
@@ -19,7 +27,17 @@ enum ExitStatus { success = 0, failure = 1, wrong_usage = 2 };
 
 void complain(const std::string& message)
 {
-    std::fputs(("vellumark-text: " + message + "\n").c_str(), stderr);
+    std::fputs(("vellumark-text: " + printable(message) + "\n").c_str(), stderr);
+}
+
+/// The library's own text would end in places of its source code.
+std::string words_of(const std::exception& error)
+{
+    if (const auto* system = dynamic_cast<const boost::system::system_error*>(&error))
+        return system->code().message();
+    if (dynamic_cast<const std::bad_alloc*>(&error))
+        return "out of memory";
+    return error.what();
 }
 
 void write_out(std::string_view bytes)
@@ -40,7 +58,7 @@ void write_text(std::u16string_view text)
     constexpr std::size_t slice = 1 << 16;
     while (!text.empty()) {
         std::size_t length = std::min(slice, text.size());
-        if (length < text.size() && (text[length - 1] & 0xFC00) == 0xD800)
+        if (length < text.size() && platform::is_high_surrogate(text[length - 1]))
             ++length;
         write_out(to_utf8(text.substr(0, length)));
         text.remove_prefix(length);
@@ -48,12 +66,19 @@ void write_text(std::u16string_view text)
     finish_output();
 }
 
+/// A commands file that can't be used is named in the error, by the reader or here.
 StoredCommands load_commands(const Options& options)
 {
     MVConfigLive::install(platform::program_folder());
-    if (options.commands_file)
-        return commands_file::read(to_system_path(*options.commands_file, current_folder()));
-    return commands_file::load();
+    try {
+        if (options.commands_file)
+            return commands_file::read(to_system_path(*options.commands_file));
+        return commands_file::load();
+    } catch (const JsonFileReaderException&) {
+        throw;
+    } catch (const std::exception& error) {
+        throw std::runtime_error(options.commands_file.value_or("the stored commands") + ": " + words_of(error));
+    }
 }
 
 }
@@ -69,10 +94,11 @@ int Session::run(int argc, const char* const* argv)
         }
         return run_command(options);
     } catch (const UsageError& error) {
-        complain(error.what() + std::string("\nTry 'vellumark-text --help'."));
+        complain(error.what());
+        std::fputs("Try 'vellumark-text --help'.\n", stderr);
         return wrong_usage;
     } catch (const std::exception& error) {
-        complain(error.what());
+        complain(words_of(error));
         return failure;
     }
 }
@@ -98,22 +124,28 @@ int Session::run_command(const Options& options)
 
 bool Session::select_paths(const Options& options)
 {
-    const std::string folder = current_folder();
     bool all_added = true;
     for_each_path(options, [&](std::string_view path) {
-        const auto refuse = [&](const std::string& reason) {
-            complain("cannot select '" + std::string(path) + "': " + reason);
-            all_added = false;
-        };
-        if (path.empty())
-            return refuse("the path is empty");
-        try {
-            selection_.add_path(to_system_path(path, folder));
-        } catch (const MVItemException& error) {
-            refuse(error.what());
-        } catch (const std::runtime_error&) {
-            refuse("there is no such file or folder, or it can't be read");
-        }
+        const std::string reason = select(path);
+        if (reason.empty())
+            return;
+        complain("cannot select '" + std::string(path) + "': " + reason);
+        all_added = false;
     });
     return all_added;
+}
+
+std::string Session::select(std::string_view path)
+{
+    if (path.empty())
+        return "the path is empty";
+    const std::u16string system_path = to_system_path(path);
+    try {
+        selection_.add_path(system_path);
+        return {};
+    } catch (const MVItemException& error) {
+        return error.what();
+    } catch (const AttributesUnreadable&) {
+        return reason_of_refusal(system_path);
+    }
 }

@@ -2,15 +2,23 @@
 
 #include "engine/text/utf.h"
 #include "platform/paths.h"
+#include "vellumark_text/printable.h"
 
 #include <sys/ioctl.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <utility>
 
 namespace {
 
 constexpr std::string_view erase_line = "\r\033[K";
+
+/// Whether there is a line that an interrupt has to take away.
+std::atomic<bool> is_shown = false;
+static_assert(std::atomic<bool>::is_always_lock_free, "asked in a signal handler");
 
 std::size_t terminal_columns()
 {
@@ -22,11 +30,6 @@ void write_error(std::string_view text)
 {
     // A status that can't be shown is no loss.
     static_cast<void>(!write(STDERR_FILENO, text.data(), text.size()));
-}
-
-bool controls_terminal(char16_t unit)
-{
-    return unit < 0x20 || (unit >= 0x7F && unit < 0xA0);
 }
 
 /// Columns a unit may take: from the first Hangul letter on many characters are twice as wide.
@@ -66,43 +69,50 @@ std::u16string status_text(std::u16string_view status, std::u16string_view item,
     return elided(text, columns);
 }
 
-StatusLine::StatusLine() : on_terminal_(isatty(STDERR_FILENO) != 0) {}
+StatusLine::StatusLine()
+{
+    if (isatty(STDERR_FILENO) != 0)
+        refresher_ = std::jthread([this](const std::stop_token& stop) { keep_showing(stop); });
+}
 
 StatusLine::~StatusLine()
 {
-    if (on_terminal_)
-        erase();
+    if (refresher_.joinable()) {
+        refresher_.request_stop();
+        refresher_.join();
+    }
+    erase();
 }
 
 void StatusLine::erase()
 {
-    write_error(erase_line);
+    if (is_shown.exchange(false))
+        write_error(erase_line);
 }
 
 void StatusLine::report_item(std::u16string_view text)
 {
-    if (!on_terminal_)
-        return;
-    const std::unique_lock lock(mutex_, std::try_to_lock);
-    if (lock.owns_lock())
-        show(text);
+    const std::lock_guard lock(mutex_);
+    item_ = text;
+    has_news_ = true;
 }
 
 void StatusLine::report_status(std::u16string_view text)
 {
-    if (!on_terminal_)
-        return;
     const std::lock_guard lock(mutex_);
     status_ = text;
+    has_news_ = true;
 }
 
-void StatusLine::show(std::u16string_view item)
+void StatusLine::keep_showing(const std::stop_token& stop)
 {
-    using namespace std::chrono_literals;
-    const auto now = std::chrono::steady_clock::now();
-    if (now < next_)
-        return;
-    next_ = now + 100ms;
-    const std::u16string host_path = to_utf16(platform::to_host_path(item));
-    write_error(std::string(erase_line) + to_utf8(status_text(status_, host_path, terminal_columns() - 1)));
+    std::unique_lock lock(mutex_);
+    while (!wake_up_.wait_for(lock, stop, std::chrono::milliseconds(100), [&] { return stop.stop_requested(); }) &&
+           !stop.stop_requested()) {
+        if (!std::exchange(has_news_, false))
+            continue;
+        const std::u16string host_path = to_utf16(platform::to_host_path(item_));
+        is_shown = true;
+        write_error(std::string(erase_line) + to_utf8(status_text(status_, host_path, terminal_columns() - 1)));
+    }
 }

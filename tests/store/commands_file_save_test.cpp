@@ -1,0 +1,141 @@
+#include "engine/commands/vellumark_command.h"
+#include "engine/parts/text_part.h"
+#include "platform/paths.h"
+#include "store/json_file_reader.h"
+#include "store/mv_command_builtin.h"
+#include "store_test.h"
+
+#include <filesystem>
+
+namespace {
+
+class CommandsFileSave : public StoreTest
+{
+protected:
+    static void save(const StoredCommands& commands)
+    {
+        commands_file::save(commands.menu, commands.library, commands.presets);
+    }
+
+    /// What is written when a file of that text is read and saved unchanged.
+    std::string resaved(std::string_view text) const
+    {
+        save(commands_file::read(folder.write("FILE", text)));
+        return content(user_file);
+    }
+
+    static constexpr std::string_view temporary_file = "user/Mirvanta/Vellumark/VKCmds.json+";
+};
+
+TEST_F(CommandsFileSave, Bytes)
+{
+    const auto command = std::make_shared<VellumarkCommand>(u"Ä😀/\"");
+    command->set_name1(u"One");
+    command->set_separator(u"\r\n\u0001");
+    command->file_parts()->append(std::make_shared<ItemPartText>());
+    command->set_show_in_menu(false);
+    ExtensionsPreset preset;
+    preset.uuid = u"1";
+    preset.name = u"Images";
+    preset.set_extensions(u"JPG");
+    const auto builtin = std::make_shared<MVCommandBuiltin>(CommandType::Configure, u"");
+    commands_file::save({builtin, command}, {command}, {preset});
+
+    const std::string written =
+        R"({"commandType":"Vellumark","name":"Ä😀/\"","name1":"One","separator":"\r\n\u0001","startText":"",)"
+        R"("endText":"","sortOrder":"as-selected","noStartEndTextIfOneItem":false,)"
+        R"("fileParts":[{"text":"","item-type":"text"}],"addFilesFromFolders":false,"showUsingDefaultRules":true)";
+    EXPECT_EQ(content(user_file), R"({"menuCommands":[{"commandType":"Configure","name":"","showInMenu":true},)" +
+                                      written + R"(,"showInMenu":true}],"commandsLibrary":[)" + written +
+                                      R"(}],"extensionsPresets":[)" + preset_json("1", "Images", "jpg") + "]}");
+    EXPECT_FALSE(exists(temporary_file));
+}
+
+TEST_F(CommandsFileSave, WhatWasReadIsWrittenBack)
+{
+    const boost::json::value shipped = read_json_file(platform::from_host_path(SHIPPED_COMMANDS));
+    EXPECT_EQ(resaved(serialize(shipped)), serialize(shipped));
+
+    const std::string parts =
+        R"({"text":"\u0000\n","item-type":"text"},)"
+        R"({"name-type":"ext-only","case-type":"TitleCase","item-type":"name"},)"
+        R"({"name-type":"selector-part","selector-part-index":-1,"item-type":"name"},)"
+        R"({"path-type":"link-target","limit-num-parents":true,"num-parents":-2,"separator-text":"",)"
+        R"("case-type":"UpperCase","item-type":"path"},)"
+        R"({"size-format":"auto","add-thousands-separator":true,"item-type":"size"},)"
+        R"({"dateType":"accessed","dateFormat":"am-pm","addLeadingZeros":true,"item-type":"date"},)"
+        R"({"start":18446744073709551615,"step":0,"addThousandsSeparator":true,"nDigits":2147483647,)"
+        R"("item-type":"auto-number"},)"
+        R"({"indentText":"\t","startText":"[","endText":"]","item-type":"folder-files"},)"
+        R"({"indentText":"","startText":"","endText":"","item-type":"folder-subfolders"},)"
+        R"({"checksum-type":"xxhash64","uppercase":true,"item-type":"checksum"})";
+    const std::string command =
+        R"({"commandType":"Vellumark","name":"A","separator":"s","startText":"<","endText":">",)"
+        R"("sortOrder":"path-length-rev","noStartEndTextIfOneItem":true,"fileParts":[)" +
+        parts + R"(],"folderParts":[)" + parts +
+        R"(],"addFilesFromFolders":true,"limitFolderDepth":true,"maxFolderDepth":-7,)"
+        R"("showUsingDefaultRules":false,"showRule":"exactlyOneFolder",)"
+        R"("showIfFilesSelected":false,"showIfFoldersSelected":true,)"
+        R"("fileFilterEnabled":false,"fileFilter":{"filterMode":"regex","filterAction":"exclude",)"
+        R"("filterPattern":"["},"folderFilterEnabled":true,)"
+        R"("folderFilter":{"filterMode":"wildcard","filterAction":"include","filterPattern":"A*"})";
+    const std::string file = R"({"menuCommands":[)" + command + R"(,"showInMenu":true}],"commandsLibrary":[)" +
+                             command + R"(}],"extensionsPresets":[]})";
+    EXPECT_EQ(resaved(file), file);
+}
+
+TEST_F(CommandsFileSave, FiltersFollowThePresets)
+{
+    const auto following = [](std::string_view name, const std::string& uuid, const std::string& pattern) {
+        return command_json(name, R"(,"fileFilterEnabled":true,"fileFilter":{"filterPattern":")" + pattern +
+                                      R"(","fileFilterPresetUuid":")" + uuid + R"("})");
+    };
+    const StoredCommands commands = commands_file::read(folder.write(
+        "FILE", R"({"menuCommands":[)" + following("follows", "1", "old") + "," + following("lost", "9", "kept") +
+                    R"(],"commandsLibrary":[)" + following("free", "", "own") + "," +
+                    following("follows too", "2", "") + R"(],"extensionsPresets":[)" +
+                    preset_json("1", "Images", "JPG;png") + "," + preset_json("2", "Texts", "txt") + "]}"));
+    save(commands);
+    const StoredCommands saved = commands_file::load();
+    std::string filters;
+    for (const CommandList& list : {commands.menu, commands.library, saved.menu, saved.library})
+        for (const auto& entry : list) {
+            const auto& command = dynamic_cast<const VellumarkCommand&>(*entry);
+            filters += to_utf8(command.name() + u": " + command.file_filter().filter_pattern() + u" <" +
+                               command.file_filter_preset_uuid() + u">\n");
+        }
+    const std::string once = "follows: jpg;png <1>\nlost: kept <>\nfree: own <>\nfollows too: txt <2>\n";
+    EXPECT_EQ(filters, once + once);
+}
+
+TEST_F(CommandsFileSave, FailureLeavesTheOldFile)
+{
+    const StoredCommands commands = commands_file::read(folder.write("FILE", R"({"menuCommands":[]})"));
+    const auto save_error = [&] { return error_of([&] { save(commands); }); };
+    folder.write(user_file, "old");
+
+    folder.make_folder(temporary_file);
+    EXPECT_EQ(save_error(), "Failed to write commands to temporary file.");
+    EXPECT_EQ(content(user_file), "old");
+    std::filesystem::remove(folder.host(temporary_file));
+
+    folder.make_link(temporary_file, "/dev/full");
+    EXPECT_EQ(save_error(), "Failed to write commands to temporary file.");
+    EXPECT_EQ(content(user_file), "old");
+    EXPECT_FALSE(exists(temporary_file));
+
+    folder.write(temporary_file, std::string(100'000, 'x'));
+    EXPECT_EQ(save_error(), "no error");
+    EXPECT_EQ(content(user_file), R"({"menuCommands":[],"commandsLibrary":[],"extensionsPresets":[]})");
+
+    std::filesystem::remove(folder.host(user_file));
+    folder.write(std::string(user_file) + "/in the way");
+    EXPECT_EQ(save_error(), "Failed to replace commands file.");
+    EXPECT_FALSE(exists(temporary_file));
+
+    std::filesystem::remove_all(folder.host("user"));
+    folder.write("user", "no folder");
+    EXPECT_EQ(save_error().substr(0, 18), "create_directories");
+}
+
+}
