@@ -36,28 +36,6 @@ bool is_entry_name(std::u16string_view name)
     return !name.empty() && name != u"." && name != u".." && name.find_first_of(never) == name.npos;
 }
 
-namespace {
-
-/// Nothing inside the system normalises a path, so an empty component, "." or ".." is nobody's name. A backslash at
-/// the end is allowed.
-bool has_only_entry_names(SplitPath split)
-{
-    if (split.form == PathForm::Drive)
-        split.rest.remove_prefix(1);
-    if (split.rest.ends_with(u'\\'))
-        split.rest.remove_suffix(1);
-    for (std::u16string_view rest = split.rest;;) {
-        const std::size_t end = rest.find(u'\\');
-        if (!is_entry_name(rest.substr(0, end)))
-            return false;
-        if (end == rest.npos)
-            return true;
-        rest.remove_prefix(end + 1);
-    }
-}
-
-}
-
 SplitPath split_path(std::u16string_view path)
 {
     constexpr std::u16string_view prefix = u"\\\\?\\", server_prefix = u"\\\\?\\UNC\\";
@@ -71,12 +49,11 @@ SplitPath split_path(std::u16string_view path)
 std::string to_host_path(std::u16string_view path)
 {
     const SplitPath split = split_path(path);
-    if (split.form == PathForm::None)
+    constexpr std::u16string_view never(u"/\0", 2);
+    if (split.form == PathForm::None || split.rest.find_first_of(never) != split.rest.npos)
         return {};
     if (split.rest.empty() || (split.form == PathForm::Drive && split.rest == u"\\"))
         return root();
-    if (!has_only_entry_names(split))
-        return {};
     std::string result = root() == "/" ? "" : root();
     if (split.form == PathForm::Server)
         result += "/net/";

@@ -49,8 +49,8 @@ class Paths(ToolTest):
                 self.check_text(here + path, "--command", "paths", "--", spelling)
 
     def test_odd_names(self):
-        names = [b"new\nline", b"'quoted\" $x", b"-dash", b"--list", b"back\\slash", b"C:", b"c:x", b" ", b"-", b"n" * 255]
-        names += ["\u00e9\U0001F600".encode(), b"\xff\xc3(", b"\xed\xa0\x80", b"\x01\x7f", b"file."]
+        names = [b"new\nline", b"'quoted\" $x", b"-dash", b"--list", b"-", b" ", b"back\\slash", b"C:", b"c:x"]
+        names += [b"n" * 255, "\u00e9\U0001F600".encode(), b"\xff\xc3(", b"\xed\xa0\x80", b"\x01\x7f", b"file."]
         for name in names:
             self.write(name, name)
             with self.subTest(name):
@@ -69,8 +69,6 @@ class Paths(ToolTest):
             ("loop/x", b"cannot select 'loop/x': Too many levels of symbolic links"),
             ("n" * 256, b"File name too long"),
             ("D:\\a", b"cannot select 'D:\\a': there can be no such path here"),
-            ("C:\\tmp\\\\a", b"there can be no such path here"),
-            ("C:\\tmp\\..\\a", b"there can be no such path here"),
             ("\\\\no-such-server\\share\\a", b"No such file or directory"),
             ("\\\\\\a", b"Path not absolute"),
             ("", b"cannot select '': the path is empty"),

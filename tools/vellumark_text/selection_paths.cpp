@@ -3,6 +3,7 @@
 #include "engine/text/letters.h"
 #include "platform/files.h"
 #include "platform/paths.h"
+#include "platform/utf.h"
 
 #include <algorithm>
 #include <array>
@@ -52,18 +53,23 @@ bool is_drive_form(std::string_view path)
            path[2] == '\\';
 }
 
-/// Backslashes separate names here; what is odd in a name travels as it does in a name of the host.
-std::u16string from_typed_names(std::string_view path)
+/// A path that is typed in the system's own form. A byte that is no valid UTF-8 travels as it does in a name of the
+/// host, so that the file is found.
+std::u16string from_typed_path(std::string_view path)
 {
-    std::u16string result;
-    for (std::size_t at = 0;;) {
-        const std::size_t end = std::min(path.find('\\', at), path.size());
-        result += platform::from_host_name(path.substr(at, end - at));
-        if (end == path.size())
-            return result;
-        result += u'\\';
-        at = end + 1;
+    std::u16string units(path.size(), u'\0');
+    char16_t* out = units.data();
+    const char* const end = path.data() + path.size();
+    for (const char* at = path.data(); at != end;) {
+        const platform::Utf8Character character = platform::utf8_character(at, end);
+        if (character.well_formed)
+            out = platform::put_utf16(out, character.code);
+        else
+            *out++ = static_cast<char16_t>(0xDC00 + static_cast<unsigned char>(*at));
+        at += character.well_formed ? character.length : 1;
     }
+    units.resize(static_cast<std::size_t>(out - units.data()));
+    return units;
 }
 
 }
@@ -86,7 +92,7 @@ void for_each_path(const Options& options, const std::function<void(std::string_
 std::u16string to_system_path(std::string_view path)
 {
     if (is_drive_form(path) || path.starts_with("\\\\"))
-        return from_typed_names(path);
+        return from_typed_path(path);
     return platform::from_host_path(
         platform::absolute_host_path(path, path.starts_with('/') ? std::string_view() : current_folder()));
 }
