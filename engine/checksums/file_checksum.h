@@ -1,13 +1,10 @@
 #pragma once
 
 #include "engine/checksums/checksum_type.h"
+#include "engine/items/cancel_point.h"
 
-#include <functional>
 #include <string>
 #include <string_view>
-
-/// True means stop. May be empty, which never stops.
-using CancelTest = std::function<bool()>;
 
 /// Digest of a file's content in lower-case hexadecimal digits, as many as the type's table row says. Empty when
 /// the file can't be opened (only regular files can), the machine's cryptography fails, `cancelled` says stop or

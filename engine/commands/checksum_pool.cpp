@@ -72,11 +72,11 @@ void compute(std::vector<Job>& jobs, ItemProgressSink& sink)
 
 }
 
-void precache_checksums(std::span<const std::shared_ptr<MVItemBase>> items, const std::set<ChecksumType>& types,
+void precache_checksums(std::span<const MVItemBase* const> items, const std::set<ChecksumType>& types,
                         bool uses_folder_data, ItemProgressSink& sink)
 {
     JobList list(types);
-    for (const auto& item : items) {
+    for (const MVItemBase* item : items) {
         if (!item->is_folder())
             list.add_file(*item);
         else if (const auto& folder = static_cast<const MVItemFolder&>(*item);

@@ -3,7 +3,6 @@
 #include "engine/checksums/checksum_type.h"
 #include "engine/items/mv_item_base.h"
 
-#include <memory>
 #include <set>
 #include <span>
 
@@ -13,5 +12,5 @@ class ItemProgressSink;
 /// they have been read, on a short pool of threads, and stores them on the files. Each pair of file and type is
 /// computed once; what has been stored before is not computed again. When the sink cancels, what was done until then
 /// is stored.
-void precache_checksums(std::span<const std::shared_ptr<MVItemBase>> items, const std::set<ChecksumType>& types,
+void precache_checksums(std::span<const MVItemBase* const> items, const std::set<ChecksumType>& types,
                         bool uses_folder_data, ItemProgressSink& sink);

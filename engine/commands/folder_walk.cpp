@@ -9,7 +9,7 @@
 
 namespace {
 
-using Items = std::vector<std::shared_ptr<MVItemBase>>;
+using Items = std::vector<const MVItemBase*>;
 using Folders = std::vector<const MVItemFolder*>;
 
 class Expansion
@@ -19,12 +19,12 @@ public:
         : max_depth_(max_depth), sink_(sink), folder_filter_(folder_filter)
     {}
 
-    void add(const std::shared_ptr<MVItemBase>& item)
+    void add(const MVItemBase& item)
     {
-        if (item->is_folder())
-            add_files_below(static_cast<const MVItemFolder&>(*item), 1);
+        if (item.is_folder())
+            add_files_below(static_cast<const MVItemFolder&>(item), 1);
         else
-            files_.push_back(item);
+            files_.push_back(&item);
     }
 
     Items take() { return std::move(files_); }
@@ -35,11 +35,11 @@ private:
     {
         if (!folder.children_loaded()) {
             sink_.report_item(folder.full_path());
-            folder.load_children();
+            folder.load_children([this] { return sink_.is_cancelled(); });
         }
         for (const auto& child : folder.children()) {
             if (!child->is_folder()) {
-                files_.push_back(child);
+                files_.push_back(child.get());
             } else {
                 if (child->is_link() || (enters_below(level) && !passes(*child)))
                     continue;
@@ -74,17 +74,17 @@ void keep_unread(Folders& folders)
 /// Reads the folders on a pool of threads and returns the unread folders found in them.
 Folders read_level(const Folders& folders, ItemProgressSink& sink)
 {
+    const auto cancelled = [&] { return sink.is_cancelled(); };
     std::vector<Folders> found(thread_count(folders.size()));
     const auto read = [&](std::size_t index, std::size_t thread) {
         const MVItemFolder& folder = *folders[index];
         sink.report_item(folder.full_path());
-        folder.load_children();
+        folder.load_children(cancelled);
         for (const auto& child : folder.children())
             if (child->is_folder() && !child->is_link())
                 found[thread].push_back(static_cast<const MVItemFolder*>(child.get()));
     };
-    for_each_parallel(
-        folders.size(), [&] { return sink.is_cancelled(); }, read);
+    for_each_parallel(folders.size(), cancelled, read);
     Folders next_level;
     for (const Folders& of_thread : found)
         next_level.insert(next_level.end(), of_thread.begin(), of_thread.end());
@@ -98,19 +98,19 @@ Items expand_files(const MVItemsSet& selection, std::int32_t max_depth, ItemProg
 {
     Expansion expansion(max_depth, sink, folder_filter);
     for (const auto& item : selection.items()) {
-        expansion.add(item);
+        expansion.add(*item);
         if (sink.is_cancelled())
             break;
     }
     return expansion.take();
 }
 
-void precache_folders(std::span<const std::shared_ptr<MVItemBase>> items, ItemProgressSink& sink)
+void precache_folders(std::span<const MVItemBase* const> items, ItemProgressSink& sink)
 {
     Folders folders;
-    for (const auto& item : items)
+    for (const MVItemBase* item : items)
         if (item->is_folder())
-            folders.push_back(static_cast<const MVItemFolder*>(item.get()));
+            folders.push_back(static_cast<const MVItemFolder*>(item));
     for (int pass = 0; pass < max_folder_level; ++pass) {
         keep_unread(folders);
         if (folders.empty() || sink.is_cancelled())

@@ -7,6 +7,8 @@
 #include "engine/parts/item_progress_sink.h"
 #include "engine/parts/text_run_context.h"
 
+#include <algorithm>
+#include <iterator>
 #include <set>
 
 namespace {
@@ -39,18 +41,26 @@ VellumarkCommand::Items VellumarkCommand::items_of(const MVItemsSet& selection, 
         items = expand_files(selection, fields_.limit_folder_depth ? fields_.max_folder_depth : 0, sink,
                              folder_filter_active() ? &fields_.folder_filter : nullptr);
     else
-        items = selection.items();
-    build_item_list(items);
+        std::ranges::transform(selection.items(), std::back_inserter(items),
+                               [](const auto& item) { return item.get(); });
+    build_item_list(items, sink);
     return items;
 }
 
-void VellumarkCommand::build_item_list(Items& items) const
+void VellumarkCommand::build_item_list(Items& items, ItemProgressSink& sink) const
 {
+    CancelPoint cancel_point([&sink] { return sink.is_cancelled(); });
+    const auto remove = [&](bool folders) {
+        std::erase_if(items, [&](const MVItemBase* item) {
+            cancel_point.ask();
+            return item->is_folder() == folders && !passes_filter(*item);
+        });
+    };
     if (file_filter_active())
-        std::erase_if(items, [&](const auto& item) { return !item->is_folder() && !passes_filter(*item); });
+        remove(false);
     if (fields_.same_parts_for_folders && folder_filter_active())
-        std::erase_if(items, [&](const auto& item) { return item->is_folder() && !passes_filter(*item); });
-    sort_items(items, fields_.sort_order);
+        remove(true);
+    sort_items(items, fields_.sort_order, cancel_point);
 }
 
 void VellumarkCommand::read_ahead(const Items& items, ItemProgressSink& sink) const
@@ -82,7 +92,7 @@ bool VellumarkCommand::append_item(TextRunContext& context, const MVItemBase& it
     return true;
 }
 
-void VellumarkCommand::generate_text(std::u16string& text, const MVItemsSet& selection, ItemProgressSink& sink) const
+std::u16string VellumarkCommand::text_of(const MVItemsSet& selection, ItemProgressSink& sink) const
 {
     const Items items = items_of(selection, sink);
     read_ahead(items, sink);
@@ -91,7 +101,7 @@ void VellumarkCommand::generate_text(std::u16string& text, const MVItemsSet& sel
     if (uses_start_and_end)
         context.output.append(fields_.start_text);
     bool is_first = true;
-    for (const auto& item : items) {
+    for (const MVItemBase* item : items) {
         if (sink.is_cancelled())
             break;
         if (!is_first)
@@ -102,5 +112,14 @@ void VellumarkCommand::generate_text(std::u16string& text, const MVItemsSet& sel
     }
     if (uses_start_and_end)
         context.output.append(fields_.end_text);
-    text = context.output.take();
+    return context.output.take();
+}
+
+void VellumarkCommand::generate_text(std::u16string& text, const MVItemsSet& selection, ItemProgressSink& sink) const
+{
+    try {
+        text = text_of(selection, sink);
+    } catch (const Cancelled&) {
+        text.clear();
+    }
 }

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "engine/items/cancel_point.h"
 #include "engine/items/mv_item_base.h"
 #include "engine/text/enum_table.h"
 
 #include <array>
 #include <cstdint>
-#include <memory>
 #include <vector>
 
 /// How a command orders its items. Each "Rev" is its twin with the operands exchanged, tie-break included.
@@ -36,4 +36,5 @@ static_assert(is_complete(sort_orders));
 
 /// Sorts by the order's key, then by name; names compare by UTF-16 unit, case-sensitive, and folders stand among
 /// the files. `AsSelected` leaves the list as it is.
-void sort_items(std::vector<std::shared_ptr<MVItemBase>>& items, Sort order);
+/// Throws Cancelled when `cancel_point` says so.
+void sort_items(std::vector<const MVItemBase*>& items, Sort order, CancelPoint& cancel_point);

@@ -20,7 +20,7 @@ class VellumarkCommand final : public MVCommandBase
 public:
     using Sort = ::Sort;
     using ShowRule = ::ShowRule;
-    using Items = std::vector<std::shared_ptr<MVItemBase>>;
+    using Items = std::vector<const MVItemBase*>;
 
     explicit VellumarkCommand(std::u16string name = {});
     /// Throws std::runtime_error "Missing key in JSON: " and the key for "name", "separator" or "fileParts", what
@@ -156,7 +156,8 @@ private:
     bool folder_filter_active() const;
     const ItemPartsList& parts_for(const MVItemBase& item) const;
     Items items_of(const MVItemsSet& selection, ItemProgressSink& sink) const;
-    void build_item_list(Items& items) const;
+    void build_item_list(Items& items, ItemProgressSink& sink) const;
+    std::u16string text_of(const MVItemsSet& selection, ItemProgressSink& sink) const;
     void read_ahead(const Items& items, ItemProgressSink& sink) const;
 
     Fields fields_;

@@ -17,20 +17,23 @@ std::u16string_view server_alone(std::u16string_view path)
     return end == rest.npos || end + 1 == rest.size() ? rest.substr(0, end) : std::u16string_view();
 }
 
-std::vector<std::shared_ptr<MVItemBase>> read_folder(const MVItemFolder& folder)
+using Entries = std::vector<std::shared_ptr<MVItemBase>>;
+
+Entries read_folder(const MVItemFolder& folder, CancelPoint& cancel_point)
 {
-    std::vector<std::shared_ptr<MVItemBase>> read;
+    Entries entries;
     const std::u16string path = folder.full_path();
     if (const auto server = server_alone(path); !server.empty()) {
         for (std::u16string& share : platform::server_shares(server))
-            read.push_back(make_item({.name = std::move(share), .is_folder = true}, &folder));
-        return read;
+            entries.push_back(make_item({.name = std::move(share), .is_folder = true}, &folder));
+        return entries;
     }
     platform::for_each_entry(add_long_path_prefix(path),
                              [&](std::u16string name, const platform::FileAttributes& attributes) {
-                                 read.push_back(make_item(MVItemInfo::of(std::move(name), attributes), &folder));
+                                 cancel_point.step();
+                                 entries.push_back(make_item(MVItemInfo::of(std::move(name), attributes), &folder));
                              });
-    return read;
+    return entries;
 }
 
 }
@@ -47,19 +50,30 @@ MVItemFolder::~MVItemFolder()
     }
 }
 
-void MVItemFolder::load_children() const
+void MVItemFolder::load_children(const CancelTest& cancelled) const
 {
     if (children_loaded_)
         return;
     children_loaded_ = true;
-    merge(read_folder(*this));
+    try {
+        read_and_merge(cancelled);
+    } catch (const Cancelled&) {
+        children_loaded_ = false;
+    } catch (...) {
+        children_loaded_ = false;
+        throw;
+    }
 }
 
-void MVItemFolder::merge(std::vector<std::shared_ptr<MVItemBase>> entries) const
+void MVItemFolder::read_and_merge(const CancelTest& cancelled) const
 {
+    CancelPoint cancel_point(cancelled);
+    Entries entries = read_folder(*this, cancel_point);
     // Stable, so that of several names with one key the first read stays and the last one's attributes count.
-    std::ranges::stable_sort(
-        entries, [](const auto& left, const auto& right) { return ChildMap::key_less(left->name(), right->name()); });
+    std::ranges::stable_sort(entries, [&](const auto& left, const auto& right) {
+        cancel_point.step();
+        return ChildMap::key_less(left->name(), right->name());
+    });
     for (const auto& entry : entries)
         if (MVItemBase& child = children_.insert(entry); &child != entry.get())
             child.take_times_and_size(entry->info());

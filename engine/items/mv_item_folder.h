@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/items/cancel_point.h"
 #include "engine/items/child_map.h"
 #include "engine/items/mv_item_base.h"
 
@@ -24,7 +25,8 @@ public:
     /// Reads the directory, the shares for a server alone, at most once: an unreadable folder counts as read and
     /// empty. A child that was there before takes over the read's times and size. No two threads may be in here for
     /// one folder, nor may another thread use the children meanwhile.
-    void load_children() const;
+    /// A read that `cancelled` stops counts as not begun.
+    void load_children(const CancelTest& cancelled = {}) const;
 
     /// True from the beginning of the read on.
     bool children_loaded() const { return children_loaded_; }
@@ -35,7 +37,7 @@ public:
     void insert(const std::shared_ptr<MVItemBase>& item) { children_.insert(item); }
 
 private:
-    void merge(std::vector<std::shared_ptr<MVItemBase>> entries) const;
+    void read_and_merge(const CancelTest& cancelled) const;
 
     /// Filled on demand, through items that are const to whoever writes a text.
     mutable ChildMap children_;

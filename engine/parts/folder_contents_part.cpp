@@ -25,7 +25,7 @@ void ItemPartFolderContents::append_text(TextRunContext& context, const MVItemBa
         return;
     context.sink->report_item(item.full_path());
     const auto& folder = static_cast<const MVItemFolder&>(item);
-    folder.load_children();
+    folder.load_children([&context] { return context.sink->is_cancelled(); });
     TextRunContext nested{context.command, context.sink,
                           TextOutput(context.output, {start_text_, indent_text_, end_text_})};
     append_children(nested, folder, level + 1);

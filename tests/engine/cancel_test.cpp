@@ -62,7 +62,7 @@ TEST(Workers, ExceptionsOfTheSinkLeaveTheRun)
     RecordingSink sink;
     sink.stop = [&]() -> bool { throw std::runtime_error("no more"); };
     EXPECT_THROW(generated(make_command(checksums), set, sink), std::runtime_error);
-    EXPECT_THROW(precache_folders(set.items(), sink), std::runtime_error);
+    EXPECT_THROW(precache_folders(items_of(set), sink), std::runtime_error);
 }
 
 TEST(Checksums, AreComputedOnceAFileAndTypeWithoutRaces)
@@ -100,7 +100,7 @@ TEST(Checksums, ACancelledRunKeepsWhatWasDone)
         const std::lock_guard lock(sink.mutex);
         return sink.items.size() > workers;
     };
-    precache_checksums(set.items(), {ChecksumType::Sha1}, false, sink);
+    precache_checksums(items_of(set), {ChecksumType::Sha1}, false, sink);
     const auto cached = std::ranges::count_if(
         set.items(), [](const auto& item) { return !item->cached_checksum(ChecksumType::Sha1).empty(); });
     EXPECT_GE(cached, 1);
@@ -118,6 +118,46 @@ TEST(ExpandFiles, ReturnsWhatWasGatheredBeforeTheCancel)
         RecordingSink sink;
         sink.stop = [&] { return sink.questions > static_cast<int>(question); };
         EXPECT_EQ(expand_files(set, 0, sink, nullptr).size(), after_question[question]) << question;
+    }
+}
+
+TEST(LoadChildren, ACancelledReadCountsAsNotBegun)
+{
+    const TempFolder folder;
+    for (int i = 0; i < 3000; ++i)
+        folder.write("top/" + std::to_string(i));
+    const MVItemsSet set(folder.path("top"));
+    const auto& top = static_cast<const MVItemFolder&>(*set.items()[0]);
+    const int questions_of_a_read = [&] {
+        int asked = 0;
+        const MVItemsSet other(folder.path("top"));
+        static_cast<const MVItemFolder&>(*other.items()[0]).load_children([&] { return ++asked < 0; });
+        return asked;
+    }();
+    EXPECT_GT(questions_of_a_read, 10) << "the sort asks as well";
+    for (const int last : {1, 2, questions_of_a_read}) {
+        int asked = 0;
+        top.load_children([&] { return ++asked == last; });
+        EXPECT_FALSE(top.children_loaded());
+        EXPECT_TRUE(top.children().empty());
+    }
+    top.load_children();
+    EXPECT_EQ(top.children().size(), 3000u);
+}
+
+TEST(GenerateText, ACancelledSortOrFilterEndsTheRun)
+{
+    const TempFolder folder;
+    std::vector<std::u16string> paths;
+    for (int i = 0; i < 2000; ++i)
+        paths.push_back(folder.write(std::to_string(i * 7919 % 2000)));
+    const MVItemsSet set(paths);
+    for (const char* json :
+         {"{'sortOrder':'name'}", "{'fileFilterEnabled':true,'fileFilter':{'filterPattern':'x'}}"}) {
+        RecordingSink sink;
+        sink.stop = [] { return true; };
+        EXPECT_EQ(generated(make_command(json), set, sink), "");
+        EXPECT_LT(sink.questions, 5);
     }
 }
 
@@ -150,7 +190,7 @@ TEST(ReadAhead, ReadsNoFolderTwiceHoweverItIsSelected)
     set.add_path(u"\\\\no-such-server");
     set.add_path(u"\\\\no-such-server");
     RecordingSink sink;
-    precache_folders(set.items(), sink);
+    precache_folders(items_of(set), sink);
     std::multiset<std::string> read(sink.items.begin(), sink.items.end());
     EXPECT_EQ(read.size(), 62u);
     for (const std::string& path : read)

@@ -40,6 +40,15 @@ public:
     std::vector<std::string> items, statuses;
 };
 
+/// The selected items as the walks take them.
+inline std::vector<const MVItemBase*> items_of(const MVItemsSet& set)
+{
+    std::vector<const MVItemBase*> items;
+    for (const auto& item : set.items())
+        items.push_back(item.get());
+    return items;
+}
+
 /// A command from JSON with single quotes for double ones; keys that it must have and doesn't are filled in.
 inline VellumarkCommand make_command(std::string json)
 {

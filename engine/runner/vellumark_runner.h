@@ -1,0 +1,6 @@
+#pragma once
+
+#include "engine/parts/item_progress_sink.h"
+
+/// The interface that text generation sees of whoever runs it.
+using VellumarkRunner = ItemProgressSink;

@@ -1,0 +1,85 @@
+#include "engine/runner/vellumark_thread.h"
+
+#include "engine/text/utf.h"
+
+#include <exception>
+#include <utility>
+
+VellumarkThread::VellumarkThread(VellumarkWatcher& watcher, std::shared_ptr<const MVItemsSet> items)
+    : watcher_(watcher), items_(std::move(items))
+{}
+
+VellumarkThread::~VellumarkThread()
+{
+    {
+        const std::lock_guard lock(mutex_);
+        state_ = State::Stopping;
+    }
+    if (thread_.joinable())
+        thread_.join();
+}
+
+void VellumarkThread::request(const VellumarkCommand* command, std::uint32_t id)
+{
+    // Copied here, for the caller may change the command as soon as this returns.
+    auto copy = command ? std::make_unique<const VellumarkCommand>(*command) : nullptr;
+    const std::lock_guard lock(mutex_);
+    pending_command_ = std::move(copy);
+    pending_request_id_ = id;
+    if (state_ == State::Running)
+        state_ = State::Restart;
+    if (state_ != State::Idle || !pending_command_)
+        return;
+    if (thread_.joinable() && thread_.get_id() != std::this_thread::get_id())
+        thread_.join();
+    try {
+        thread_ = std::thread(&VellumarkThread::work, this);
+    } catch (...) {
+        pending_command_.reset();
+        throw;
+    }
+    state_ = State::Running;
+}
+
+bool VellumarkThread::is_running() const
+{
+    const std::lock_guard lock(mutex_);
+    return state_ == State::Running;
+}
+
+void VellumarkThread::work()
+{
+    while (take_request())
+        run();
+}
+
+bool VellumarkThread::take_request()
+{
+    const std::lock_guard lock(mutex_);
+    if (!pending_command_ || state_ == State::Stopping) {
+        if (state_ != State::Stopping)
+            state_ = State::Idle;
+        return false;
+    }
+    working_command_ = std::move(pending_command_);
+    request_id_ = pending_request_id_;
+    state_ = State::Running;
+    return true;
+}
+
+void VellumarkThread::run()
+{
+    std::u16string text, failure;
+    try {
+        working_command_->generate_text(text, *items_, *this);
+    } catch (const std::exception& error) {
+        failure = to_utf16(error.what());
+    } catch (...) {
+        failure = u"Unknown error";
+    }
+    if (is_cancelled())
+        return;
+    if (!failure.empty())
+        watcher_.status_report(failure);
+    watcher_.text_ready(failure.empty() ? std::move(text) : std::u16string(), request_id_);
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+/// Whoever wants the texts of a VellumarkThread. Outlives the thread object.
+class VellumarkWatcher
+{
+public:
+    virtual ~VellumarkWatcher() = default;
+
+    /// The text of the request with this id, which has not been overtaken so far. Called on the worker thread. May
+    /// make a new request.
+    virtual void text_ready(std::u16string text, std::uint32_t request_id) = 0;
+
+    /// The path of the item being worked on; from any of a run's threads, several at once.
+    virtual void item_report(std::u16string_view) {}
+
+    /// What a run is doing; from its threads. When a run fails, the words of its exception come here, then an empty
+    /// text through `text_ready`.
+    virtual void status_report(std::u16string_view) {}
+};

@@ -1,0 +1,204 @@
+#include "engine/runner/vellumark_thread.h"
+#include "engine/text/number_grouping.h"
+#include "engine_fixture.h"
+
+#include <gtest/gtest.h>
+
+#include <unistd.h>
+
+#include <chrono>
+#include <condition_variable>
+#include <thread>
+
+namespace {
+
+using namespace std::chrono_literals;
+
+/// Keeps what it is told; `during` runs in each item report, `on_text` in each text.
+class RecordingWatcher final : public VellumarkWatcher
+{
+public:
+    void text_ready(std::u16string text, std::uint32_t id) override
+    {
+        if (on_text)
+            on_text(id);
+        const std::lock_guard lock(mutex_);
+        texts_.push_back(std::to_string(id) + ":" + to_utf8(text));
+        changed_.notify_all();
+    }
+
+    void item_report(std::u16string_view) override
+    {
+        if (during)
+            during();
+    }
+
+    void status_report(std::u16string_view text) override
+    {
+        const std::lock_guard lock(mutex_);
+        statuses_.push_back(to_utf8(text));
+    }
+
+    /// All texts, once there are so many.
+    std::vector<std::string> texts(std::size_t count)
+    {
+        std::unique_lock lock(mutex_);
+        changed_.wait_for(lock, 20s, [&] { return texts_.size() >= count; });
+        return texts_;
+    }
+
+    std::vector<std::string> statuses()
+    {
+        const std::lock_guard lock(mutex_);
+        return statuses_;
+    }
+
+    std::function<void()> during;
+    std::function<void(std::uint32_t)> on_text;
+
+private:
+    std::mutex mutex_;
+    std::condition_variable changed_;
+    std::vector<std::string> texts_, statuses_;
+};
+
+VellumarkCommand literal(const std::string& text)
+{
+    return make_command("{'fileParts':[{'item-type':'text','text':'" + text + "'}]}");
+}
+
+class Runner : public testing::Test
+{
+protected:
+    Runner() : items_(std::make_shared<MVItemsSet>(folder_.write("f", "x"))) {}
+
+    /// A command whose run reports an item, so that the watcher can hold it there.
+    static VellumarkCommand hashing()
+    {
+        return make_command("{'fileParts':[{'item-type':'checksum','checksum-type':'crc32'}]}");
+    }
+
+    TempFolder folder_;
+    std::shared_ptr<MVItemsSet> items_;
+    RecordingWatcher watcher_;
+};
+
+using Texts = std::vector<std::string>;
+
+TEST_F(Runner, OfABurstOnlyTheLastIsDelivered)
+{
+    std::atomic<bool> entered = false, release = false;
+    watcher_.during = [&] {
+        entered = true;
+        while (!release)
+            std::this_thread::sleep_for(1ms);
+    };
+    VellumarkThread thread(watcher_, items_);
+    const VellumarkCommand blocked = hashing();
+    thread.request(&blocked, 1);
+    while (!entered)
+        std::this_thread::sleep_for(1ms);
+    EXPECT_TRUE(thread.is_running());
+    for (std::uint32_t id = 2; id <= 11; ++id) {
+        const VellumarkCommand command = literal("t" + std::to_string(id));
+        thread.request(&command, id);
+    }
+    EXPECT_FALSE(thread.is_running());
+    release = true;
+    EXPECT_EQ(watcher_.texts(1), Texts{"11:t11"});
+    const VellumarkCommand again = literal("again");
+    thread.request(&again, 12);
+    EXPECT_EQ(watcher_.texts(2), (Texts{"11:t11", "12:again"}));
+}
+
+TEST_F(Runner, ANullRequestEndsTheRunWithoutAText)
+{
+    std::atomic<bool> entered = false;
+    VellumarkThread* running = nullptr;
+    watcher_.during = [&] {
+        entered = true;
+        while (!running->is_cancelled())
+            std::this_thread::sleep_for(1ms);
+    };
+    VellumarkThread thread(watcher_, items_);
+    running = &thread;
+    thread.request(nullptr, 0);
+    EXPECT_FALSE(thread.is_running());
+    const VellumarkCommand blocked = hashing(), next = literal("next");
+    thread.request(&blocked, 1);
+    while (!entered)
+        std::this_thread::sleep_for(1ms);
+    thread.request(nullptr, 2);
+    thread.request(&next, 3);
+    EXPECT_EQ(watcher_.texts(1), Texts{"3:next"});
+}
+
+TEST_F(Runner, TheCommandIsCopiedAtTheRequest)
+{
+    VellumarkThread thread(watcher_, items_);
+    VellumarkCommand command = literal("before");
+    for (std::uint32_t id = 1; id <= 200; ++id) {
+        thread.request(&command, id);
+        command.set_start_text(u"after " + decimal_text(id));
+        command.file_parts()->append(*command.file_parts()->begin());
+    }
+    const auto texts = watcher_.texts(1);
+    EXPECT_EQ(texts.front().find("after 200"), std::string::npos);
+}
+
+TEST_F(Runner, AFailedRunIsToldAndAnswered)
+{
+    watcher_.during = [] { throw std::runtime_error("no luck"); };
+    VellumarkThread thread(watcher_, items_);
+    const VellumarkCommand command = hashing();
+    thread.request(&command, 7);
+    EXPECT_EQ(watcher_.texts(1), Texts{"7:"});
+    EXPECT_EQ(watcher_.statuses().back(), "no luck");
+}
+
+TEST_F(Runner, DestructionStopsALongChecksum)
+{
+    ASSERT_EQ(truncate(folder_.host("f").c_str(), std::int64_t{64} << 30), 0);
+    std::atomic<bool> entered = false;
+    watcher_.during = [&] { entered = true; };
+    const auto begin = [&] {
+        auto thread = std::make_unique<VellumarkThread>(watcher_, items_);
+        const VellumarkCommand command = hashing();
+        thread->request(&command, 1);
+        while (!entered)
+            std::this_thread::sleep_for(1ms);
+        return thread;
+    };
+    auto thread = begin();
+    const auto started = std::chrono::steady_clock::now();
+    thread.reset();
+    EXPECT_LT(std::chrono::steady_clock::now() - started, 2s);
+    EXPECT_TRUE(watcher_.texts(0).empty());
+}
+
+TEST_F(Runner, SurvivesRequestsAtAnyMoment)
+{
+    std::atomic<std::uint32_t> last_text = 0;
+    VellumarkThread* from_slot = nullptr;
+    const VellumarkCommand text = literal("x"), sum = hashing();
+    watcher_.on_text = [&](std::uint32_t id) {
+        last_text = id;
+        if (id % 3 == 0)
+            from_slot->request(&text, id + 1'000'000);
+    };
+    for (int round = 0; round < 20; ++round) {
+        VellumarkThread thread(watcher_, items_);
+        from_slot = &thread;
+        for (std::uint32_t id = 1; id <= 100; ++id) {
+            thread.request(id % 7 == 0 ? nullptr : id % 2 == 0 ? &text : &sum, id);
+            if (id % 5 == 0)
+                std::this_thread::sleep_for(std::chrono::microseconds(id * 3));
+        }
+        thread.request(&text, 200);
+        while (last_text < 200)
+            std::this_thread::sleep_for(1ms);
+        last_text = 0;
+    }
+}
+
+}
