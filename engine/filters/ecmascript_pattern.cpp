@@ -72,7 +72,7 @@ private:
         if (rest_.size() < 2)
             throw std::invalid_argument("nothing behind the backslash");
         const char16_t unit = rest_[1];
-        if (unit == u'u' || (unit == u'0' && !(rest_.size() > 2 && is_ascii_digit(rest_[2]))))
+        if (unit == u'u' || (unit == u'0' && (rest_.size() == 2 || !is_ascii_digit(rest_[2]))))
             return translate_code(unit == u'u');
         if (in_class && unit == u'b') {
             rest_.remove_prefix(2);
