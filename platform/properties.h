@@ -49,18 +49,22 @@ using PropertyValue = std::variant<bool, std::int64_t, std::uint64_t, double, Fi
                                    std::vector<std::u16string>>;
 
 /// Conversions as the documented ones do them: a text of a number converts to the number, a number to its digits, a
-/// bool to 1 or 0 and "1"/"0"..., a list of one element as that element; a longer list becomes a text joined with
-/// "; ". Empty when the value can't be converted; a number out of range or not finite can't.
+/// bool to 1 or 0, a list of one element as that element; a longer list becomes a text joined with "; ". Empty when
+/// the value can't be converted; a number out of range or not finite can't, and a moment is no number.
 std::optional<double> to_double(const PropertyValue& value);
+/// A fraction is rounded, half to even.
 std::optional<std::int64_t> to_int64(const PropertyValue& value);
+/// False for 0, true for any other number; "true" and "false" in any case too.
 std::optional<bool> to_bool(const PropertyValue& value);
+/// Without groups of digits and without an exponent; a moment in UTC as "2024/03/05:14:02:11.250".
 std::optional<std::u16string> to_text(const PropertyValue& value);
-/// In local time, 100 ns since 1601.
+/// In local time, 100 ns since 1601. Empty for what is no moment.
 std::optional<std::int64_t> to_local_file_time(const PropertyValue& value);
 
 /// The properties of one file. Opens the file with a metadata library only when a property asks for one, at most once
-/// a library. Only regular files are opened. A broken or hostile file has fewer properties, nothing else. One object
-/// serves one thread; several objects may be at work at once.
+/// a library. Only regular files are opened, links followed; what the file system knows of a link is its own. A
+/// broken or hostile file has fewer properties, nothing else. What was read stays as it was for the object's life.
+/// One object serves one thread; several objects may be at work at once.
 class FileProperties
 {
 public:
