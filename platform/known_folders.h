@@ -4,7 +4,7 @@
 #include <string>
 
 /// Folders in drive form, without a trailing backslash (the host's root is `C:`). A variable that holds no absolute
-/// path is ignored, as the XDG Base Directory Specification asks.
+/// path is ignored, as the XDG base directory rules ask.
 namespace platform {
 
 /// The user's own settings: $XDG_CONFIG_HOME, else ~/.config (home from $HOME, else the user database).

@@ -54,7 +54,7 @@ class ToolTest(unittest.TestCase):
         self.addCleanup(shutil.rmtree, folder)
         write_json(folder + "/commands.json", COMMANDS)
         self.home = folder
-        self.folder = os.fsencode(folder) + b"/work"
+        self.folder = os.fsencode(folder) + b"/here"
         os.mkdir(self.folder)
         self.environment = os.environ | {
             "HOME": folder,
