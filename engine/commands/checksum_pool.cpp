@@ -20,11 +20,14 @@ struct Job {
 class JobList
 {
 public:
-    explicit JobList(const std::set<ChecksumType>& types) : types_(types) {}
+    JobList(const std::set<ChecksumType>& types, CancelTest cancelled)
+        : types_(types), cancel_point_(std::move(cancelled))
+    {}
 
     void add_file(const MVItemBase& file)
     {
         // A file can be selected and stand below a selected folder as well.
+        cancel_point_.step();
         if (!seen_.insert(&file).second)
             return;
         for (const ChecksumType type : types_)
@@ -55,6 +58,7 @@ public:
 
 private:
     const std::set<ChecksumType>& types_;
+    CancelPoint cancel_point_;
     std::unordered_set<const MVItemBase*> seen_;
     std::vector<Job> jobs_;
 };
@@ -75,7 +79,7 @@ void compute(std::vector<Job>& jobs, ItemProgressSink& sink)
 void precache_checksums(std::span<const MVItemBase* const> items, const std::set<ChecksumType>& types,
                         bool uses_folder_data, ItemProgressSink& sink)
 {
-    JobList list(types);
+    JobList list(types, [&] { return sink.is_cancelled(); });
     for (const MVItemBase* item : items) {
         if (!item->is_folder())
             list.add_file(*item);

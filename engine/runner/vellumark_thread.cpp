@@ -3,6 +3,7 @@
 #include "engine/text/utf.h"
 
 #include <exception>
+#include <string>
 #include <utility>
 
 VellumarkThread::VellumarkThread(VellumarkWatcher& watcher, std::shared_ptr<const MVItemsSet> items)
@@ -69,17 +70,32 @@ bool VellumarkThread::take_request()
 
 void VellumarkThread::run()
 {
-    std::u16string text, failure;
+    try {
+        deliver(made_text());
+    } catch (...) {
+        // Thrown by the watcher itself, who can't be told of it.
+    }
+}
+
+std::u16string VellumarkThread::made_text()
+{
+    std::u16string text;
+    std::string failure;
     try {
         working_command_->generate_text(text, *items_, *this);
+        return text;
     } catch (const std::exception& error) {
-        failure = to_utf16(error.what());
+        failure = error.what();
     } catch (...) {
-        failure = u"Unknown error";
+        failure = "Unknown error";
     }
-    if (is_cancelled())
-        return;
-    if (!failure.empty())
-        watcher_.status_report(failure);
-    watcher_.text_ready(failure.empty() ? std::move(text) : std::u16string(), request_id_);
+    if (!is_cancelled())
+        watcher_.status_report(to_utf16(failure));
+    return {};
+}
+
+void VellumarkThread::deliver(std::u16string text)
+{
+    if (!is_cancelled())
+        watcher_.text_ready(std::move(text), request_id_);
 }

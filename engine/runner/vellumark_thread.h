@@ -49,6 +49,9 @@ private:
     /// Takes the request that waits. False, and idle, when there is none.
     bool take_request();
     void run();
+    /// The request's text; empty after a failure, which the watcher has been told then.
+    std::u16string made_text();
+    void deliver(std::u16string text);
 
     VellumarkWatcher& watcher_;
     const std::shared_ptr<const MVItemsSet> items_;

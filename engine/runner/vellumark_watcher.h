@@ -4,7 +4,8 @@
 #include <string>
 #include <string_view>
 
-/// Whoever wants the texts of a VellumarkThread. Outlives the thread object.
+/// Whoever wants the texts of a VellumarkThread. Outlives the thread object. What an operation throws is dropped,
+/// with the report or text that it was given.
 class VellumarkWatcher
 {
 public:

@@ -156,6 +156,21 @@ TEST_F(Runner, AFailedRunIsToldAndAnswered)
     EXPECT_EQ(watcher_.statuses().back(), "no luck");
 }
 
+TEST_F(Runner, AWatcherThatThrowsEndsNothing)
+{
+    watcher_.on_text = [](std::uint32_t id) {
+        if (id == 1)
+            throw std::runtime_error("from the slot");
+    };
+    VellumarkThread thread(watcher_, items_);
+    const VellumarkCommand command = literal("x");
+    thread.request(&command, 1);
+    while (thread.is_running())
+        std::this_thread::sleep_for(1ms);
+    thread.request(&command, 2);
+    EXPECT_EQ(watcher_.texts(1), Texts{"2:x"});
+}
+
 TEST_F(Runner, DestructionStopsALongChecksum)
 {
     ASSERT_EQ(truncate(folder_.host("f").c_str(), std::int64_t{64} << 30), 0);
