@@ -25,7 +25,8 @@ build dev
 list=$(mktemp)
 trap 'rm -f -- "$list"' EXIT
 sources "$@" >"$list"
-# The flags are those of g++, some of which clang doesn't know. Each run's findings come out in one piece; the count of suppressed findings in system headers is dropped.
+# The flags are those of g++, some of which clang doesn't know. Each run's findings come out in one piece; the count of
+# suppressed findings in system headers is dropped.
 # shellcheck disable=SC2016
 xargs -0 -P "$(nproc)" -n 1 bash -c \
     'out=$(clang-tidy-16 -p "$0" --quiet --extra-arg=-Wno-unknown-warning-option "$1" 2>&1); status=$?

@@ -26,8 +26,8 @@ public:
 
     void add_file(const MVItemBase& file)
     {
-        // A file can be selected and stand below a selected folder as well.
         cancel_point_.step();
+        // A file can be selected and stand below a selected folder as well.
         if (!seen_.insert(&file).second)
             return;
         for (const ChecksumType type : types_)
