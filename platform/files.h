@@ -46,19 +46,36 @@ bool exists(std::u16string_view path);
 /// boost::filesystem::filesystem_error with the operation name "create_directories" and the host path as path1.
 void create_directories(std::u16string_view folder);
 
-/// The whole content of a file or pipe, 2 GiB at the most. When it can't be opened or read the result is empty and
-/// `error` holds the system's English words for the reason; otherwise `error` stays as it was.
+/// The whole content of a regular file, 2 GiB at the most. Fifos, sockets and devices are never opened, so that none
+/// of them in the place of a stored file can make the program wait. When the file can't be opened or read the result
+/// is empty and `error` holds the system's English words for the reason, or "Not a regular file"; otherwise `error`
+/// stays as it was.
 std::optional<std::string> read_file(std::u16string_view path, std::string& error);
+
+/// The same of whatever a user names on a command line, pipes included: waits until the writer closes its end.
+std::optional<std::string> read_file_or_pipe(std::u16string_view path, std::string& error);
 
 /// Writes `content` to `path`, truncating what was there, and brings it to the disk before it returns. False on any
 /// failure; the file may then be there in part.
 bool write_file(std::u16string_view path, std::string_view content);
 
-/// Gives the file `from` the name `to` in one step, replacing a file of that name, and brings the folder's change to
-/// the disk. False when the name could not be changed; both files are then as they were.
-bool replace_file(std::u16string_view from, std::u16string_view to);
+/// What `replace_content` did. Unless it is done the old file is as it was and no temporary file is left.
+enum class Replacement : std::uint32_t {
+    Done,
+    NotWritten, ///< the temporary file could not be opened, locked or written
+    NotReplaced ///< it could not take the place of what is at the path
+};
 
-/// Removes a file; silent when it can't.
-void remove_file(std::u16string_view path);
+/// Makes `content` the file at `path` in one step: at any moment, also after a crash, that is the old file or the new
+/// one whole. The content goes to a temporary file beside it, named as the file with a "+", and is brought to the
+/// disk; then this takes the file's name, and the folder's change is brought to the disk.
+/// - A link stays: what it leads to is replaced, with the temporary file beside that; where it dangles, the file is
+///   made.
+/// - Permission bits are kept, the owner where that is allowed; hard links, ACLs and extended attributes are not.
+/// - A folder, fifo, socket or device at the path, and a file that may not be written, are not replaced.
+/// - At the temporary name a file left by an interrupted call is used again, a link or the like is removed, and a
+///   folder makes the call fail.
+/// - The temporary file is locked (flock) meanwhile. A second call waits for it up to a second, then gives up.
+Replacement replace_content(std::u16string_view path, std::string_view content);
 
 }

@@ -2,19 +2,21 @@
 # Installs the Debian packages of the named groups that are not there yet. Without anything missing it only asks dpkg:
 # no network, no privileges, a few milliseconds.
 #
-#     scripts/install_packages.sh GROUP...      (build, test, lint, bench)
+#     scripts/install_packages.sh GROUP...      (build, test, lint, bench, fuzz)
 #
 # VELLUMARK_INSTALL=no leaves the machine as it is, for systems where the dependencies came another way.
 source "$(dirname -- "${BASH_SOURCE[0]}")/common.sh"
 
-# The names with a version are needed: Debian's unversioned Boost is 1.74, which has no JSON library; clang-tidy before 16
+# The names with a version are needed: Debian's unversioned Boost is 1.74, which has no JSON library; clang before 16
 # can't read the ranges of g++ 12's standard library.
 declare -Ar groups=(
-    [build]="g++ cmake ninja-build ccache qt6-base-dev libssl-dev
+    [build]="g++ cmake ninja-build ccache pkg-config qt6-base-dev libssl-dev
+        libexif-dev libtag1-dev libmediainfo-dev libqpdf-dev libzip-dev
         libboost-json1.81-dev libboost-filesystem1.81-dev libboost-regex1.81-dev libboost-program-options1.81-dev"
-    [test]="libgtest-dev python3"
+    [test]="libgtest-dev python3 strace"
     [lint]="git python3 clang-format clang-tidy-16 shellcheck"
     [bench]="libbenchmark-dev python3 openssl xxhash rhash findutils"
+    [fuzz]="clang-16 libclang-rt-16-dev"
 )
 
 # Prints those of the packages, one a line, that dpkg doesn't have whole.

@@ -3,7 +3,6 @@
 #include "engine/commands/vellumark_command.h"
 #include "platform/files.h"
 #include "store/command_factory.h"
-#include "store/json_file_reader.h"
 #include "store/mv_config.h"
 
 #include <algorithm>
@@ -66,9 +65,9 @@ void move_hidden_commands(StoredCommands& commands)
     const auto belongs_in_menu = [](const auto& command) {
         return command->show_in_menu() || command->type() != CommandType::Vellumark;
     };
-    const auto hidden = std::ranges::stable_partition(commands.menu, belongs_in_menu);
-    commands.library.assign(hidden.begin(), hidden.end());
-    commands.menu.erase(hidden.begin(), hidden.end());
+    const auto hidden = std::stable_partition(commands.menu.begin(), commands.menu.end(), belongs_in_menu);
+    commands.library.assign(hidden, commands.menu.end());
+    commands.menu.erase(hidden, commands.menu.end());
 }
 
 void set_shown(const CommandList& list, bool shown)
@@ -113,17 +112,12 @@ json::array menu_to_json(const CommandList& menu)
     return array;
 }
 
-/// Replaces the file at `path`; the temporary file is gone afterwards, on success and on failure.
-void write_in_one_step(const std::u16string& path, std::string_view content)
+void write_in_one_step(std::u16string_view path, std::string_view content)
 {
-    const std::u16string temporary = path + u"+";
-    if (!platform::write_file(temporary, content)) {
-        platform::remove_file(temporary);
-        throw std::runtime_error("Failed to write commands to temporary file.");
-    }
-    if (!platform::replace_file(temporary, path)) {
-        platform::remove_file(temporary);
-        throw std::runtime_error("Failed to replace commands file.");
+    switch (platform::replace_content(path, content)) {
+    case platform::Replacement::Done: return;
+    case platform::Replacement::NotWritten: throw std::runtime_error("Failed to write commands to temporary file.");
+    case platform::Replacement::NotReplaced: throw std::runtime_error("Failed to replace commands file.");
     }
 }
 
@@ -131,21 +125,12 @@ void write_in_one_step(const std::u16string& path, std::string_view content)
 
 namespace commands_file {
 
-StoredCommands read(std::u16string_view path)
+StoredCommands from_json(const json::object& file)
 {
-    // Default presets are asked for later, but without a configuration nothing is read at all.
-    MVConfig::get_global();
-    if (!platform::exists(path))
-        throw JsonFileReaderException(std::u16string(path), JsonFileStatus::MissingFile);
-    const json::value value = read_json_file(path);
-    const json::object* file = value.if_object();
-    if (!file)
-        throw JsonFileReaderException(std::u16string(path), JsonFileStatus::InvalidData,
-                                      "Top-level JSON value is not an object.");
     StoredCommands commands;
-    commands.menu = read_menu(*file);
-    commands.presets = read_presets_of(*file);
-    if (const json::value* library = file->if_contains(library_key)) {
+    commands.menu = read_menu(file);
+    commands.presets = read_presets_of(file);
+    if (const json::value* library = file.if_contains(library_key)) {
         if (const json::array* array = library->if_array())
             commands.library = read_list(*array);
         set_shown(commands.menu, true);
@@ -154,6 +139,28 @@ StoredCommands read(std::u16string_view path)
         move_hidden_commands(commands);
     }
     return commands;
+}
+
+json::object to_json(const CommandList& menu, const CommandList& library,
+                     const std::vector<ExtensionsPreset>& presets)
+{
+    return {{menu_key, menu_to_json(menu)},
+            {library_key, list_to_json(library)},
+            {presets_key, presets_to_json(presets)}};
+}
+
+StoredCommands read(std::u16string_view path, JsonSource source)
+{
+    // Default presets are asked for later, but without a configuration nothing is read at all.
+    MVConfig::get_global();
+    if (!platform::exists(path))
+        throw JsonFileReaderException(std::u16string(path), JsonFileStatus::MissingFile);
+    const json::value value = read_json_file(path, source);
+    const json::object* file = value.if_object();
+    if (!file)
+        throw JsonFileReaderException(std::u16string(path), JsonFileStatus::InvalidData,
+                                      "Top-level JSON value is not an object.");
+    return from_json(*file);
 }
 
 StoredCommands load_defaults()
@@ -175,11 +182,9 @@ void save(const CommandList& menu, const CommandList& library, const std::vector
     const std::u16string path = MVConfig::get_global().path(FileKind::UserCommands);
     update_from_presets(menu, presets);
     update_from_presets(library, presets);
-    const json::object file{{menu_key, menu_to_json(menu)},
-                            {library_key, list_to_json(library)},
-                            {presets_key, presets_to_json(presets)}};
+    const std::string content = json::serialize(to_json(menu, library, presets));
     create_parent_directories(path);
-    write_in_one_step(path, json::serialize(file));
+    write_in_one_step(path, content);
 }
 
 }

@@ -2,6 +2,7 @@
 
 #include "engine/commands/mv_command_base.h"
 #include "engine/filters/extensions_preset.h"
+#include "store/json_file_reader.h"
 
 #include <memory>
 #include <string_view>
@@ -29,13 +30,20 @@ StoredCommands load_defaults();
 
 /// One file. Commands of unknown type are left out, presets that the file doesn't know come from the default
 /// presets, and in a file from before there was a library the hidden file-name commands move there.
-StoredCommands read(std::u16string_view path);
+StoredCommands read(std::u16string_view path, JsonSource source = JsonSource::StoredFile);
 
-/// Writes the user's file by way of a temporary file beside it, so that the old file stays whole until the new one
-/// is. File-name commands are brought up to date against `presets` first: a filter that follows a preset takes its
-/// extensions, and a link to a preset that is gone is dropped; they keep that when writing fails. Throws
-/// std::runtime_error "Failed to write commands to temporary file." or "Failed to replace commands file." or
-/// boost::filesystem::filesystem_error for the folder; the old file is then as it was.
+/// What `read` makes of a file's value, and what `save` writes.
+StoredCommands from_json(const boost::json::object& file);
+boost::json::object to_json(const CommandList& menu, const CommandList& library,
+                            const std::vector<ExtensionsPreset>& presets);
+
+/// Writes the user's file in one step by way of a temporary file beside it, "VKCmds.json+", which is never read: the
+/// old file stays whole until the new one is. Where the file is a link, that stays and what it leads to is replaced.
+/// Of two programs that save at once the second waits, up to a second; whichever is last is then the file. File-name
+/// commands are brought up to date against `presets` first: a filter that follows a preset takes its extensions, and
+/// a link to a preset that is gone is dropped; they keep that when writing fails. Throws std::runtime_error "Failed
+/// to write commands to temporary file." or "Failed to replace commands file." or boost::filesystem::filesystem_error
+/// for the folder; the old file is then as it was.
 void save(const CommandList& menu, const CommandList& library, const std::vector<ExtensionsPreset>& presets);
 
 }

@@ -26,10 +26,11 @@ JsonFileReaderException::JsonFileReaderException(std::u16string path, JsonFileSt
         message_ += " (" + detail_ + ")";
 }
 
-boost::json::value read_json_file(std::u16string_view path)
+boost::json::value read_json_file(std::u16string_view path, JsonSource source)
 {
     std::string reason;
-    const auto content = platform::read_file(path, reason);
+    const auto content = source == JsonSource::StoredFile ? platform::read_file(path, reason)
+                                                          : platform::read_file_or_pipe(path, reason);
     if (!content)
         throw JsonFileReaderException(std::u16string(path), JsonFileStatus::ReadError, reason);
     boost::json::error_code error;

@@ -32,9 +32,15 @@ private:
     std::string message_;
 };
 
-/// The JSON value that a file holds. Throws JsonFileReaderException with status ReadError and the system's reason,
-/// or InvalidJson and the parser's.
-boost::json::value read_json_file(std::u16string_view path);
+/// What may lie at a path.
+enum class JsonSource : std::uint32_t {
+    StoredFile, ///< a regular file; anything else is a read error, so that a fifo there stops no program
+    AnyFile     ///< whatever the user named, pipes included
+};
+
+/// The JSON value that a file holds. Throws JsonFileReaderException with status ReadError and the reason, or
+/// InvalidJson and the parser's.
+boost::json::value read_json_file(std::u16string_view path, JsonSource source = JsonSource::StoredFile);
 
 /// Creates the folders that the file at `path` is to lie in. Throws boost::filesystem::filesystem_error with the
 /// operation name "create_directories".

@@ -2,12 +2,15 @@
 
 #include "engine/items/mv_item_file.h"
 #include "engine/items/mv_item_folder.h"
+#include "engine/properties/item_property_reader.h"
 
+#include <functional>
 #include <map>
 #include <mutex>
 
 struct MVItemBase::Extras {
     std::mutex mutex; ///< held for accesses to the caches alone, never while a file is read
+    std::map<std::u16string, std::u16string, std::less<>> properties;
     std::map<ChecksumType, std::u16string> checksums;
     std::vector<std::u16string> selector_parts;
 };
@@ -63,6 +66,21 @@ std::u16string MVItemBase::selector_part(std::int32_t index) const
 void MVItemBase::set_selector_parts(std::vector<std::u16string> parts)
 {
     extras().selector_parts = std::move(parts);
+}
+
+std::u16string MVItemBase::property_value(std::u16string_view name) const
+{
+    Extras& current = extras();
+    {
+        const std::lock_guard lock(current.mutex);
+        if (const auto found = current.properties.find(name); found != current.properties.end())
+            return found->second;
+    }
+    const std::u16string own_name(name);
+    ItemPropertyReader reader(full_path());
+    reader.load_display_values({&own_name, 1});
+    const std::lock_guard lock(current.mutex);
+    return current.properties.emplace(own_name, reader.display_value(name)).first->second;
 }
 
 std::u16string MVItemBase::cached_checksum(ChecksumType type) const

@@ -57,6 +57,10 @@ public:
     std::u16string selector_part(std::int32_t index) const;
     void set_selector_parts(std::vector<std::u16string> parts);
 
+    /// The display text of a property, read from the file once and kept, also when it is empty. Safe from any thread;
+    /// goes to the file without a lock, and of two that read it at once the first counts for both.
+    std::u16string property_value(std::u16string_view name) const;
+
     /// The stored checksum in lower-case digits, empty when there is none. Safe from any thread.
     std::u16string cached_checksum(ChecksumType type) const;
     /// Creates or replaces the stored checksum. Safe from any thread.

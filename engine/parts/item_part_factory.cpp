@@ -6,6 +6,7 @@
 #include "engine/parts/folder_contents_part.h"
 #include "engine/parts/name_part.h"
 #include "engine/parts/path_part.h"
+#include "engine/parts/property_part.h"
 #include "engine/parts/size_part.h"
 #include "engine/parts/text_part.h"
 
@@ -32,6 +33,7 @@ constexpr std::array makers{
     maker<ItemPartPath>(ItemPartBase::Type::Path),
     maker<ItemPartSize>(ItemPartBase::Type::Size),
     maker<ItemPartDate>(ItemPartBase::Type::Date),
+    maker<ItemPartProperty>(ItemPartBase::Type::Property),
     maker<ItemPartAutoNumber>(ItemPartBase::Type::AutoNumber),
     maker<ItemPartFolderFiles>(ItemPartBase::Type::FolderFiles),
     maker<ItemPartFolderSubfolders>(ItemPartBase::Type::FolderSubfolders),

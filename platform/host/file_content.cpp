@@ -1,7 +1,7 @@
 #include "platform/files.h"
 
 #include "platform/host/host_location.h"
-#include "platform/paths.h"
+#include "platform/host/write_all.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -16,6 +16,7 @@ namespace {
 
 /// What is larger is no file of ours; a device or a sparse file could be endless.
 constexpr std::size_t largest_file = std::size_t{2} << 30;
+constexpr const char* not_regular = "Not a regular file";
 
 std::string words(int error)
 {
@@ -51,35 +52,38 @@ bool read_rest(int descriptor, std::string& content)
     }
 }
 
-bool write_all(int descriptor, std::string_view content)
+std::optional<std::string> read_opened(const Descriptor& descriptor, std::string& error)
 {
-    while (!content.empty()) {
-        const ssize_t count = ::write(descriptor, content.data(), content.size());
-        if (count < 0 && errno != EINTR)
-            return false;
-        content.remove_prefix(static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
-    }
-    return true;
-}
-
-/// Best effort: some file systems can't bring a folder to the disk, and the new name stands in any case.
-void sync_parent_folder(const std::string& host_path)
-{
-    const std::string parent = host_path.substr(0, host_path.rfind('/') + 1);
-    if (const Descriptor folder = HostLocation(parent).open(O_RDONLY | O_DIRECTORY))
-        fsync(folder.get());
+    std::string content;
+    if (descriptor && read_rest(descriptor.get(), content))
+        return content;
+    error = words(errno);
+    return {};
 }
 
 }
 
 std::optional<std::string> read_file(std::u16string_view path, std::string& error)
 {
-    const Descriptor descriptor = HostLocation(path).open(O_RDONLY | O_NOCTTY);
-    std::string content;
-    if (descriptor && read_rest(descriptor.get(), content))
-        return content;
-    error = words(errno);
-    return {};
+    const HostLocation location(path);
+    const auto is_readable = [](const struct stat& info) { return S_ISREG(info.st_mode) || S_ISDIR(info.st_mode); };
+    struct stat info;
+    if (fstatat(location.folder(), location.name(), &info, 0) == 0 && !is_readable(info)) {
+        error = not_regular;
+        return {};
+    }
+    // Another entry can have taken the name since: opening a fifo must not wait, and nothing but a file is read.
+    const Descriptor descriptor = location.open(O_RDONLY | O_NONBLOCK | O_NOCTTY);
+    if (descriptor && (fstat(descriptor.get(), &info) != 0 || !is_readable(info))) {
+        error = not_regular;
+        return {};
+    }
+    return read_opened(descriptor, error);
+}
+
+std::optional<std::string> read_file_or_pipe(std::u16string_view path, std::string& error)
+{
+    return read_opened(HostLocation(path).open(O_RDONLY | O_NOCTTY), error);
 }
 
 bool write_file(std::u16string_view path, std::string_view content)
@@ -88,21 +92,6 @@ bool write_file(std::u16string_view path, std::string_view content)
     Descriptor descriptor = HostLocation(path).open(O_WRONLY | O_CREAT | O_TRUNC | O_NONBLOCK | O_NOCTTY, 0666);
     const bool is_written = descriptor && write_all(descriptor.get(), content) && fsync(descriptor.get()) == 0;
     return descriptor && close(descriptor.release()) == 0 && is_written;
-}
-
-bool replace_file(std::u16string_view from, std::u16string_view to)
-{
-    const HostLocation source(from), target(to);
-    if (renameat(source.folder(), source.name(), target.folder(), target.name()) != 0)
-        return false;
-    sync_parent_folder(to_host_path(to));
-    return true;
-}
-
-void remove_file(std::u16string_view path)
-{
-    const HostLocation location(path);
-    unlinkat(location.folder(), location.name(), 0);
 }
 
 }

@@ -33,16 +33,19 @@ TEST(FileContent, ReadsWholeFilesAndPipes)
         EXPECT_EQ(platform::read_file(folder.write("file", content), error), content);
         mkfifo(folder.host("fifo").c_str(), 0600);
         std::thread writer([&] { std::ofstream(folder.host("fifo")) << content; });
-        EXPECT_EQ(platform::read_file(folder.path("fifo"), error), content);
+        EXPECT_EQ(platform::read_file_or_pipe(folder.path("fifo"), error), content);
         writer.join();
     }
     EXPECT_FALSE(platform::read_file(u"C:\\proc\\self\\status", error).value_or("").empty());
     EXPECT_EQ(error, "untouched");
 
     folder.make_link("loop", "loop");
+    folder.make_link("null", "/dev/null");
     for (const auto& [name, words] : {std::pair{"", "Is a directory"},
                                       {"gone", "No such file or directory"},
                                       {"file/x", "Not a directory"},
+                                      {"fifo", "Not a regular file"},
+                                      {"null", "Not a regular file"},
                                       {"loop", "Too many levels of symbolic links"}}) {
         EXPECT_FALSE(platform::read_file(folder.path(name), error));
         EXPECT_EQ(error, words);
@@ -56,10 +59,11 @@ TEST(FileContent, WritesAndReplaces)
     EXPECT_TRUE(platform::write_file(folder.path("file"), "new"));
     EXPECT_EQ(content_of(folder.host("file")), "new");
     const mode_t mask = umask(007);
-    EXPECT_TRUE(platform::write_file(folder.path("file+"), std::string(3'000'000, 'y')));
+    EXPECT_EQ(platform::replace_content(folder.path("new"), "x"), platform::Replacement::Done);
     umask(mask);
-    EXPECT_EQ(std::filesystem::status(folder.host("file+")).permissions(), std::filesystem::perms(0660));
-    EXPECT_TRUE(platform::replace_file(folder.path("file+"), folder.path("file")));
+    EXPECT_EQ(std::filesystem::status(folder.host("new")).permissions(), std::filesystem::perms(0660));
+    EXPECT_EQ(platform::replace_content(folder.path("file"), std::string(3'000'000, 'y')),
+              platform::Replacement::Done);
     EXPECT_EQ(content_of(folder.host("file")), std::string(3'000'000, 'y'));
     EXPECT_FALSE(std::filesystem::exists(folder.host("file+")));
 }
@@ -74,13 +78,13 @@ TEST(FileContent, FailuresLeaveFilesAsTheyWere)
         EXPECT_FALSE(platform::write_file(folder.path(name), "x")) << name;
     EXPECT_FALSE(platform::write_file(u"C:\\dev\\full", "x"));
     EXPECT_FALSE(platform::write_file(u"D:\\x", "x"));
-    for (const auto& [from, to] : {std::pair{"file", "sub"}, {"gone", "file"}, {"file", "gone/x"}})
-        EXPECT_FALSE(platform::replace_file(folder.path(from), folder.path(to)));
-    for (const char* name : {"sub", "gone", "file/x"})
-        platform::remove_file(folder.path(name));
+    folder.make_folder("busy+");
+    for (const char* name : {"gone/x", "file/x", "busy"})
+        EXPECT_EQ(platform::replace_content(folder.path(name), "x"), platform::Replacement::NotWritten) << name;
+    for (const char* name : {"sub", "fifo"})
+        EXPECT_EQ(platform::replace_content(folder.path(name), "x"), platform::Replacement::NotReplaced) << name;
+    EXPECT_TRUE(std::filesystem::is_fifo(folder.host("fifo")));
     EXPECT_EQ(content_of(folder.host("file")) + content_of(folder.host("sub/inside")), "oldkept");
-    platform::remove_file(folder.path("fifo"));
-    EXPECT_FALSE(std::filesystem::exists(folder.host("fifo")));
 }
 
 TEST(FileContent, ReaderFillsItsBuffer)

@@ -93,6 +93,14 @@ class Commands(ToolTest):
         write_json(self.home + USER_FILE, {"menuCommands": []})
         self.assertEqual(names(), (0, [b"of all users"]))
 
+    def test_pipes(self):
+        given = json.dumps(COMMANDS).encode()
+        self.check_text(b"a", "--commands", "/dev/stdin", "a", given=given, own_commands=False)
+        # A stored file is none that somebody writes to just now: waiting for it could last for ever.
+        os.makedirs(os.path.dirname(self.home + USER_FILE))
+        os.mkfifo(self.home + USER_FILE)
+        self.check_refused(1, b"Read Error (Not a regular file)", "a", own_commands=False)
+
     def test_output_errors(self):
         for arguments in [["a"], ["--list"], ["--help"]]:
             with self.subTest(arguments), open("/dev/full", "wb") as full:

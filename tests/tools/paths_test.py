@@ -103,6 +103,7 @@ class Paths(ToolTest):
                 with self.subTest(source):
                     self.check_text(b"a\nb\nc", "--paths-from", source, "a", given=content)
         self.check_text(b"b\nc", "-0", "--paths-from=-", given=b"b\0c\0")
+        self.check_text(b"b\nc", "--paths-from", "/dev/stdin", given=b"b\nc\n")
         self.check_text(b"", "--paths-from", "-", given=b"")
         self.check_refused(1, b"cannot select '': ", "--paths-from", "-", given=b"b\n\nc\n", text=b"b\nc")
         self.check_refused(1, b"/gone: No such file", "--paths-from", self.home + "/gone", "a")

@@ -42,7 +42,7 @@ std::string read_list(const std::string& name)
     if (name == "-")
         return read_standard_input();
     std::string reason;
-    if (auto content = platform::read_file(to_system_path(name), reason))
+    if (auto content = platform::read_file_or_pipe(to_system_path(name), reason))
         return *std::move(content);
     throw std::runtime_error(name + ": " + reason);
 }

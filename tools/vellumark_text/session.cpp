@@ -72,7 +72,7 @@ StoredCommands load_commands(const Options& options)
     MVConfigLive::install(platform::program_folder());
     try {
         if (options.commands_file)
-            return commands_file::read(to_system_path(*options.commands_file));
+            return commands_file::read(to_system_path(*options.commands_file), JsonSource::AnyFile);
         return commands_file::load();
     } catch (const JsonFileReaderException&) {
         throw;

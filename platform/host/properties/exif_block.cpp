@@ -1,0 +1,87 @@
+#include "platform/host/properties/exif_block.h"
+
+#include <algorithm>
+
+namespace platform {
+
+namespace {
+
+using namespace std::string_view_literals;
+
+constexpr std::string_view exif_head = "Exif\0\0"sv;
+constexpr std::size_t largest_block = 65'533;
+/// Segments or chunks to walk over before the search is given up.
+constexpr int most_steps = 200;
+
+std::uint32_t big_endian(std::string_view bytes)
+{
+    std::uint32_t value = 0;
+    for (const char byte : bytes)
+        value = value << 8 | static_cast<unsigned char>(byte);
+    return value;
+}
+
+std::uint32_t little_endian(std::string_view bytes)
+{
+    return big_endian(std::string(bytes.rbegin(), bytes.rend()));
+}
+
+std::string with_head(std::string block)
+{
+    return block.empty() || block.starts_with(exif_head) ? block : std::string(exif_head) + block;
+}
+
+/// Walks the marker segments up to the image data.
+std::string in_jpeg(SubjectFile& file)
+{
+    std::uint64_t at = 2;
+    for (int i = 0; i < most_steps; ++i) {
+        constexpr std::size_t lead = 4;
+        const std::string start = file.read_text(at, lead + exif_head.size());
+        if (start.size() < lead || start[0] != '\xFF' || start[1] == '\xDA')
+            return {};
+        const std::uint32_t length = big_endian(std::string_view(start).substr(2, 2));
+        if (length < 2)
+            return {};
+        if (start[1] == '\xE1' && start.substr(lead) == exif_head)
+            return file.read_text(at + lead, length - 2);
+        at += 2 + length;
+    }
+    return {};
+}
+
+/// Walks chunks of a name, a length and that many bytes.
+std::string in_chunks(SubjectFile& file, bool is_png)
+{
+    std::uint64_t at = is_png ? 8 : 12;
+    for (int i = 0; i < most_steps; ++i) {
+        constexpr std::size_t lead = 8;
+        const std::string start = file.read_text(at, lead);
+        if (start.size() < lead)
+            return {};
+        const auto part = [&start](std::size_t from) { return std::string_view(start).substr(from, 4); };
+        const std::uint64_t length = is_png ? big_endian(part(0)) : little_endian(part(4));
+        if (part(is_png ? 4 : 0) == (is_png ? "eXIf"sv : "EXIF"sv))
+            return with_head(file.read_text(at + lead, std::min<std::uint64_t>(length, largest_block)));
+        at += lead + (is_png ? length + 4 : length + length % 2);
+    }
+    return {};
+}
+
+}
+
+std::string exif_block(SubjectFile& file)
+{
+    const std::string start = file.read_text(0, 12);
+    if (start.starts_with("\xFF\xD8"sv))
+        return in_jpeg(file);
+    if (start.starts_with("\x89PNG"sv))
+        return in_chunks(file, true);
+    if (start.starts_with("RIFF"sv) && start.ends_with("WEBP"sv))
+        return in_chunks(file, false);
+    if (start.starts_with("II"sv) || start.starts_with("MM"sv))
+        return with_head(file.read_text(0, largest_block));
+    return {};
+}
+
+}

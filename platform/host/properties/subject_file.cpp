@@ -1,0 +1,117 @@
+#include "platform/host/properties/subject_file.h"
+
+#include "platform/host/host_location.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+
+namespace platform {
+
+namespace {
+
+/// What one library may read of one file, and how long it may take. A call costs something too, so that a library
+/// that runs in circles over a few bytes comes to its end.
+constexpr std::uint64_t allowed_bytes = 64 << 20, cost_of_call = 256;
+constexpr std::chrono::seconds allowed_time{2};
+constexpr std::size_t head_size = 4096;
+
+}
+
+SubjectFile::SubjectFile(std::u16string_view path) : path_(path), attributes_(file_attributes(path_)) {}
+
+std::u16string_view SubjectFile::name() const
+{
+    const std::u16string_view path = path_;
+    const std::size_t slash = path.rfind(u'\\');
+    return slash == path.npos || slash + 1 == path.size() ? path : path.substr(slash + 1);
+}
+
+std::u16string_view SubjectFile::extension() const
+{
+    const std::u16string_view file_name = name();
+    const std::size_t dot = file_name.rfind(u'.');
+    return dot == file_name.npos ? std::u16string_view() : file_name.substr(dot);
+}
+
+FileKind SubjectFile::kind()
+{
+    if (!attributes_ || attributes_->is_folder)
+        return FileKind::Other;
+    if (!kind_) {
+        const auto by_extension = kind_by_extension(extension());
+        kind_ = by_extension ? *by_extension : kind_by_content(head());
+    }
+    return *kind_;
+}
+
+void SubjectFile::open()
+{
+    is_opened_ = true;
+    const HostLocation location(path_);
+    const auto is_regular = [](const struct stat& info) { return S_ISREG(info.st_mode); };
+    struct stat info;
+    if (fstatat(location.folder(), location.name(), &info, 0) != 0 || !is_regular(info))
+        return;
+    // The file can become a fifo between the two calls: O_NONBLOCK keeps the open from waiting for a writer.
+    Descriptor descriptor = location.open(O_RDONLY | O_NOCTTY | O_NONBLOCK);
+    if (!descriptor || fstat(descriptor.get(), &info) != 0 || !is_regular(info))
+        return;
+    descriptor_ = std::move(descriptor);
+    size_ = static_cast<std::uint64_t>(info.st_size);
+}
+
+int SubjectFile::descriptor()
+{
+    if (!is_opened_)
+        open();
+    return descriptor_.get();
+}
+
+std::uint64_t SubjectFile::size()
+{
+    return descriptor() >= 0 ? size_ : 0;
+}
+
+const std::string& SubjectFile::head()
+{
+    if (!head_) {
+        start_allowance();
+        head_ = read_text(0, head_size);
+    }
+    return *head_;
+}
+
+void SubjectFile::start_allowance()
+{
+    bytes_left_ = allowed_bytes;
+    deadline_ = std::chrono::steady_clock::now() + allowed_time;
+}
+
+bool SubjectFile::has_allowance() const
+{
+    return bytes_left_ > cost_of_call && std::chrono::steady_clock::now() < deadline_;
+}
+
+std::size_t SubjectFile::read_at(std::uint64_t offset, char* out, std::size_t count)
+{
+    if (offset >= size() || !has_allowance())
+        return 0;
+    const auto wanted = std::min<std::uint64_t>({count, size_ - offset, bytes_left_ - cost_of_call});
+    const ssize_t read = pread(descriptor(), out, static_cast<std::size_t>(wanted), static_cast<off_t>(offset));
+    const auto result = static_cast<std::size_t>(std::max<ssize_t>(read, 0));
+    bytes_left_ -= result + cost_of_call;
+    return result;
+}
+
+std::string SubjectFile::read_text(std::uint64_t offset, std::size_t count)
+{
+    if (offset >= size())
+        return {};
+    std::string result(static_cast<std::size_t>(std::min<std::uint64_t>(count, size_ - offset)), '\0');
+    result.resize(read_at(offset, result.data(), result.size()));
+    return result;
+}
+
+}

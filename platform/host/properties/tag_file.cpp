@@ -1,0 +1,136 @@
+#include "platform/host/properties/tag_file.h"
+
+#include <aifffile.h>
+#include <apefile.h>
+#include <asffile.h>
+#include <flacfile.h>
+#include <id3v2framefactory.h>
+#include <mp4file.h>
+#include <mpcfile.h>
+#include <mpegfile.h>
+#include <oggflacfile.h>
+#include <opusfile.h>
+#include <speexfile.h>
+#include <trueaudiofile.h>
+#include <vorbisfile.h>
+#include <wavfile.h>
+#include <wavpackfile.h>
+
+namespace platform {
+
+namespace {
+
+template <typename File>
+std::unique_ptr<TagLib::File> with_frames(TagStream& stream)
+{
+    return std::make_unique<File>(&stream, TagLib::ID3v2::FrameFactory::instance(), true,
+                                  TagLib::AudioProperties::Fast);
+}
+
+template <typename File>
+std::unique_ptr<TagLib::File> plainly(TagStream& stream)
+{
+    return std::make_unique<File>(&stream, true, TagLib::AudioProperties::Fast);
+}
+
+struct TypeRow {
+    /// True for a file that begins like one of the type; null when only the extensions tell.
+    bool (*matches)(TagLib::IOStream*);
+    /// Lower case, each with its dot and a blank behind it.
+    std::string_view extensions;
+    std::unique_ptr<TagLib::File> (*open)(TagStream&);
+};
+
+using namespace TagLib;
+
+// Asked in this order. What an MP3 file begins with is found in many others too, so it comes last.
+const TypeRow types[] = {
+    {FLAC::File::isSupported, ".flac ", with_frames<FLAC::File>},
+    {Ogg::Vorbis::File::isSupported, ".ogg .oga ", plainly<Ogg::Vorbis::File>},
+    {Ogg::Opus::File::isSupported, ".opus ", plainly<Ogg::Opus::File>},
+    {Ogg::FLAC::File::isSupported, "", plainly<Ogg::FLAC::File>},
+    {Ogg::Speex::File::isSupported, ".spx ", plainly<Ogg::Speex::File>},
+    {MP4::File::isSupported, ".m4a .m4b .m4p .mp4 .m4v ", plainly<MP4::File>},
+    {ASF::File::isSupported, ".wma .wmv .asf ", plainly<ASF::File>},
+    {RIFF::WAV::File::isSupported, ".wav .wave ", plainly<RIFF::WAV::File>},
+    {RIFF::AIFF::File::isSupported, ".aif .aiff .aifc ", plainly<RIFF::AIFF::File>},
+    {APE::File::isSupported, ".ape ", plainly<APE::File>},
+    {MPC::File::isSupported, ".mpc ", plainly<MPC::File>},
+    {WavPack::File::isSupported, ".wv ", plainly<WavPack::File>},
+    {TrueAudio::File::isSupported, ".tta ", with_frames<TrueAudio::File>},
+    {MPEG::File::isSupported, ".mp3 .mp2 .mpga ", with_frames<MPEG::File>},
+};
+
+}
+
+TagFile::TagFile(SubjectFile& file)
+{
+    if (file.descriptor() < 0)
+        return;
+    stream_ = std::make_unique<TagStream>(file);
+    const std::string extension = std::string(stream_->name()).substr(1) + " ";
+    const TypeRow* chosen = nullptr;
+    for (const auto& type : types)
+        if (extension.size() > 1 && type.extensions.find(extension) != std::string_view::npos &&
+            type.matches(stream_.get()))
+            chosen = &type;
+    for (const auto& type : types)
+        if (!chosen && type.matches(stream_.get()))
+            chosen = &type;
+    if (!chosen)
+        return;
+    file_ = chosen->open(*stream_);
+    if (!file_->isValid())
+        file_.reset();
+}
+
+namespace {
+
+template <typename Type>
+bool is(const File& file)
+{
+    return dynamic_cast<const Type*>(&file) != nullptr;
+}
+
+template <typename... Types>
+int bits_of(const AudioProperties& properties)
+{
+    int result = 0;
+    const auto ask = [&result](const auto* matching) { result = matching ? matching->bitsPerSample() : result; };
+    (ask(dynamic_cast<const Types*>(&properties)), ...);
+    return result;
+}
+
+}
+
+std::string_view format_name(const File& file)
+{
+    struct Row {
+        bool (*matches)(const File&);
+        std::string_view name;
+    };
+
+    static constexpr Row rows[] = {
+        {is<MPEG::File>, "MPEG Audio"}, {is<FLAC::File>, "FLAC"},
+        {is<Ogg::FLAC::File>, "FLAC"},  {is<Ogg::Vorbis::File>, "Vorbis"},
+        {is<Ogg::Opus::File>, "Opus"},  {is<Ogg::Speex::File>, "Speex"},
+        {is<ASF::File>, "WMA"},         {is<RIFF::WAV::File>, "PCM"},
+        {is<RIFF::AIFF::File>, "PCM"},  {is<APE::File>, "Monkey's Audio"},
+        {is<MPC::File>, "Musepack"},    {is<WavPack::File>, "WavPack"},
+        {is<TrueAudio::File>, "TTA"},
+    };
+    if (const auto* const mp4 = dynamic_cast<const MP4::Properties*>(file.audioProperties()))
+        return mp4->codec() == MP4::Properties::ALAC ? "ALAC" : "AAC";
+    for (const auto& row : rows)
+        if (row.matches(file))
+            return row.name;
+    return {};
+}
+
+int sample_size(const AudioProperties& properties)
+{
+    return bits_of<FLAC::Properties, RIFF::WAV::Properties, RIFF::AIFF::Properties, APE::Properties,
+                   WavPack::Properties, TrueAudio::Properties, MP4::Properties>(properties);
+}
+
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "platform/host/properties/tag_stream.h"
+
+#include <tfile.h>
+
+#include <memory>
+
+namespace platform {
+
+/// An audio file opened with TagLib.
+class TagFile
+{
+public:
+    explicit TagFile(SubjectFile& file);
+
+    /// Null when TagLib doesn't know the format.
+    TagLib::File* get() const { return file_.get(); }
+
+private:
+    std::unique_ptr<TagStream> stream_;
+    std::unique_ptr<TagLib::File> file_;
+};
+
+/// "MP3", "FLAC" ...; empty for a format without a name here.
+std::string_view format_name(const TagLib::File& file);
+
+/// Bits a sample; 0 when the format doesn't tell.
+int sample_size(const TagLib::AudioProperties& properties);
+
+}

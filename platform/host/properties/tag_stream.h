@@ -1,0 +1,51 @@
+#pragma once
+
+#include "platform/host/properties/subject_file.h"
+
+#include <tiostream.h>
+
+namespace platform {
+
+/// The file as TagLib takes it: read-only, and with a limit to what one read gives. TagLib inflates the compressed
+/// frames of ID3 without a limit of its own, so large tags are given to it with these frames marked as plain ones.
+class TagStream final : public TagLib::IOStream
+{
+public:
+    explicit TagStream(SubjectFile& file);
+
+    TagLib::FileName name() const override { return name_.c_str(); }
+
+    /// Behind a read that was cut the position is where the whole one would have ended.
+    TagLib::ByteVector readBlock(unsigned long length) override;
+    void seek(long offset, Position from = Beginning) override;
+
+    long tell() const override { return position_; }
+
+    long length() override { return static_cast<long>(file_.size()); }
+
+    bool readOnly() const override { return true; }
+
+    bool isOpen() const override { return is_open_; }
+
+    void writeBlock(const TagLib::ByteVector&) override {}
+
+    void insert(const TagLib::ByteVector&, unsigned long, unsigned long) override {}
+
+    void removeBlock(unsigned long, unsigned long) override {}
+
+    void truncate(long) override {}
+
+private:
+    SubjectFile& file_;
+    /// Whether the last ID3 tag seen is written in the way that hides where its frames begin.
+    bool is_escaped_ = false;
+    bool is_open_;
+    /// TagLib looks at the extension only.
+    std::string name_;
+    long position_ = 0;
+    /// What was read last, at least a page of it: TagLib reads a few bytes at a time.
+    std::string page_;
+    long page_start_ = 0;
+};
+
+}

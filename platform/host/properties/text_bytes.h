@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+/// Text as metadata holds it.
+namespace platform {
+
+/// UTF-8, with or without a byte order mark; what is no UTF-8 counts as Latin-1.
+std::u16string decode_bytes(std::string_view bytes);
+
+/// Two bytes a unit, the low one first.
+std::u16string decode_ucs2(std::string_view bytes);
+
+/// Cut at the first U+0000, without blanks at its ends, lone surrogates as U+FFFD, 32,767 units at the most: a
+/// property is a line or a paragraph, and what is longer was made to fill memory.
+std::u16string tidy_text(std::u16string_view text);
+
+}

@@ -1,0 +1,63 @@
+#include "platform/host/properties/readers.h"
+#include "platform/paths.h"
+
+#include <QMimeDatabase>
+
+#include <array>
+
+namespace platform {
+
+namespace {
+
+struct KindRow {
+    std::u16string_view mime_prefix;
+    std::u16string_view kind;
+};
+
+// The kinds are those of the documented Kind names.
+constexpr std::array<KindRow, 11> kind_rows{{{u"image/", u"picture"},
+                                             {u"audio/", u"music"},
+                                             {u"video/", u"video"},
+                                             {u"text/", u"document"},
+                                             {u"inode/directory", u"folder"},
+                                             {u"application/pdf", u"document"},
+                                             {u"application/vnd.oasis.opendocument.", u"document"},
+                                             {u"application/vnd.openxmlformats-officedocument.", u"document"},
+                                             {u"application/msword", u"document"},
+                                             {u"application/x-executable", u"program"},
+                                             {u"message/rfc822", u"email"}}};
+
+QMimeType type_of(SubjectFile& file)
+{
+    static const QMimeDatabase database;
+    if (file.attributes()->is_folder)
+        return database.mimeTypeForName(QStringLiteral("inode/directory"));
+    if (file.attributes()->is_link && file.descriptor() < 0)
+        return database.mimeTypeForName(QStringLiteral("inode/symlink"));
+    std::u16string name(file.name());
+    make_presentable(name);
+    const std::string& head = file.head();
+    return database.mimeTypeForFileNameAndData(QString::fromStdU16String(name),
+                                               QByteArray(head.data(), static_cast<qsizetype>(head.size())));
+}
+
+void set_kind(PropertyBag& bag, const std::u16string& mime_name)
+{
+    for (const auto& row : kind_rows)
+        if (mime_name.starts_with(row.mime_prefix))
+            return bag.set_list(u"System.Kind", row.kind);
+}
+
+}
+
+bool read_type(SubjectFile& file, PropertyBag& bag)
+{
+    const QMimeType type = type_of(file);
+    const std::u16string mime_name = type.name().toStdU16String();
+    bag.set_text(u"System.MIMEType", mime_name);
+    bag.set_text(u"System.ItemTypeText", type.comment().toStdU16String());
+    set_kind(bag, mime_name);
+    return true;
+}
+
+}

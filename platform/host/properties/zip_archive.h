@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/host/properties/subject_file.h"
+
+#include <memory>
+
+struct zip;
+
+namespace platform {
+
+/// A packed document's files.
+class ZipArchive
+{
+public:
+    explicit ZipArchive(SubjectFile& file);
+
+    bool is_open() const { return archive_ != nullptr; }
+
+    /// Content of a file of the archive. Empty when it isn't there, is encrypted, broken or larger than 4 MiB.
+    std::string content(const char* name) const;
+
+private:
+    struct Discard {
+        void operator()(zip* archive) const;
+    };
+
+    std::unique_ptr<zip, Discard> archive_;
+};
+
+}

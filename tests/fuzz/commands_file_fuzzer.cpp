@@ -1,0 +1,27 @@
+#include "fuzz_input.h"
+#include "store/commands_file.h"
+#include "store/mv_config.h"
+
+extern "C" int LLVMFuzzerInitialize(int*, char***)
+{
+    MVConfigLive::install(u"C:\\nowhere");
+    return 0;
+}
+
+/// What was read is written, read again and written the same.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    const auto value = FuzzInput(data, size).json();
+    if (!value || !value->is_object())
+        return 0;
+    const auto first = accepted([&] { return commands_file::from_json(value->get_object()); });
+    if (!first)
+        return 0;
+    const auto written = commands_file::to_json(first->menu, first->library, first->presets);
+    const StoredCommands second = commands_file::from_json(written);
+    require(commands_file::to_json(second.menu, second.library, second.presets) == written, "written the same");
+    require(second.presets == first->presets, "same presets");
+    for (const auto& command : first->menu)
+        require(command->clone()->equals(*command), "a copy is equal");
+    return 0;
+}

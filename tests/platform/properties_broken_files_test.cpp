@@ -1,0 +1,85 @@
+#include "platform/paths.h"
+#include "platform/properties.h"
+#include "support/temp_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <sstream>
+
+using platform::FileProperties;
+
+namespace {
+
+std::string content_of(const std::string& host_path)
+{
+    std::ostringstream out;
+    out << std::ifstream(host_path, std::ios::binary).rdbuf();
+    return out.str();
+}
+
+/// Some bytes changed, or set to extremes, or a piece cut out, doubled or the end cut off.
+std::string mutated(std::string content, std::mt19937& random)
+{
+    const auto below = [&random](std::size_t limit) { return random() % std::max<std::size_t>(limit, 1); };
+    for (std::size_t i = 1 + below(4); i > 0 && !content.empty(); --i) {
+        // The structures that matter stand at the front.
+        const std::size_t at = below(below(2) == 0 ? std::min<std::size_t>(content.size(), 512) : content.size());
+        const std::size_t length = below(std::min<std::size_t>(content.size() - at, 64)) + 1;
+        switch (below(6)) {
+        case 0: content[at] = static_cast<char>(random()); break;
+        case 1: content[at] = static_cast<char>(content[at] ^ (1 << below(8))); break;
+        case 2: content.replace(at, length, std::string(length, below(2) == 0 ? '\xFF' : '\0')); break;
+        case 3: content.erase(at, length); break;
+        case 4: content.insert(at, content.substr(at, length)); break;
+        case 5: content.resize(at); break;
+        }
+    }
+    return content;
+}
+
+void read_all(const std::u16string& path)
+{
+    FileProperties file(path);
+    for (const auto& name : file.names())
+        file.display_text(name);
+}
+
+/// A greater number can be asked for in VELLUMARK_MUTATIONS.
+int mutations_a_file()
+{
+    const char* const number = std::getenv("VELLUMARK_MUTATIONS");
+    return number ? std::atoi(number) : 60;
+}
+
+TEST(Properties, BrokenFilesAreReadQuicklyAndSilently)
+{
+    const TempFolder folder;
+    std::mt19937 random(2024);
+    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
+    std::string slow;
+    for (const char* const name :
+         {"Photos/Harbour.jpg", "Photos/IMG_0001.png", "Sounds/Morning Bell.mp3", "Sounds/Evening Bell.flac",
+          "Sounds/Night Bell.ogg", "Sounds/bell.wav", "Films/Test Card.mp4", "Documents/Tide tables.pdf",
+          "Documents/Report.docx", "Documents/Notes.odt"}) {
+        const std::string content = content_of(std::string(SAMPLES_FOLDER "/") + name);
+        const std::string extension = std::filesystem::path(name).extension();
+        for (int i = 0; i < mutations_a_file(); ++i) {
+            const auto path = folder.write("broken" + extension, mutated(content, random));
+            const auto start = std::chrono::steady_clock::now();
+            read_all(path);
+            if (std::chrono::steady_clock::now() - start > std::chrono::seconds(5))
+                slow += std::string(name) + " " + std::to_string(i) + "\n";
+        }
+    }
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    EXPECT_EQ(slow, "");
+}
+
+}
