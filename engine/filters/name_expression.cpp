@@ -1,5 +1,6 @@
 #include "engine/filters/name_expression.h"
 
+#include "engine/filters/counting_iterator.h"
 #include "engine/filters/ecmascript_pattern.h"
 #include "engine/text/letters.h"
 
@@ -39,8 +40,13 @@ bool NameExpression::is_found_in(std::u16string_view name) const
 {
     if (!compiled_)
         return false;
+    const std::wstring text = widened(name);
+    // The library's own limit is on states, of which a pattern with many repeats makes too few, each taking too long.
+    SearchBudget budget;
+    const CountingIterator begin(text.data(), budget), end(text.data() + text.size(), budget);
     try {
-        return boost::regex_search(widened(name), compiled_->expression,
+        boost::match_results<CountingIterator> where;
+        return boost::regex_search(begin, end, where, compiled_->expression,
                                    boost::match_not_dot_newline | boost::match_single_line);
     } catch (const std::exception&) {
         // Thrown for a search without end in sight.
