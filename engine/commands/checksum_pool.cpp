@@ -71,7 +71,7 @@ public:
         }
     }
 
-    const std::vector<Job>& jobs() const { return jobs_; }
+    std::vector<Job> take() { return std::move(jobs_); }
 
 private:
     const std::set<ChecksumType>& types_;
@@ -79,6 +79,20 @@ private:
     SeenFiles seen_;
     std::vector<Job> jobs_;
 };
+
+std::vector<Job> jobs_for(std::span<const MVItemBase* const> items, const std::set<ChecksumType>& types,
+                          bool uses_folder_data, ItemProgressSink& sink)
+{
+    JobList list(types, [&] { return sink.is_cancelled(); });
+    for (const MVItemBase* item : items) {
+        if (!item->is_folder())
+            list.add_file(*item);
+        else if (const auto& folder = static_cast<const MVItemFolder&>(*item);
+                 uses_folder_data && folder.children_loaded())
+            list.add_files_below(folder);
+    }
+    return list.take();
+}
 
 void compute(const std::vector<Job>& jobs, ItemProgressSink& sink)
 {
@@ -98,16 +112,9 @@ void compute(const std::vector<Job>& jobs, ItemProgressSink& sink)
 void precache_checksums(std::span<const MVItemBase* const> items, const std::set<ChecksumType>& types,
                         bool uses_folder_data, ItemProgressSink& sink)
 {
-    JobList list(types, [&] { return sink.is_cancelled(); });
-    for (const MVItemBase* item : items) {
-        if (!item->is_folder())
-            list.add_file(*item);
-        else if (const auto& folder = static_cast<const MVItemFolder&>(*item);
-                 uses_folder_data && folder.children_loaded())
-            list.add_files_below(folder);
-    }
-    if (list.jobs().empty())
+    const std::vector<Job> jobs = jobs_for(items, types, uses_folder_data, sink);
+    if (jobs.empty())
         return;
     sink.report_status(u"Computing checksums...");
-    compute(list.jobs(), sink);
+    compute(jobs, sink);
 }
