@@ -37,26 +37,35 @@ std::u16string_view SubjectFile::extension() const
 
 FileKind SubjectFile::kind()
 {
-    if (!attributes_ || attributes_->is_folder)
-        return FileKind::Other;
     if (!kind_) {
         const auto by_extension = kind_by_extension(extension());
-        kind_ = by_extension ? *by_extension : kind_by_content(head());
+        if (host_type() != S_IFREG)
+            kind_ = FileKind::Other;
+        else
+            kind_ = by_extension ? *by_extension : kind_by_content(head());
     }
     return *kind_;
+}
+
+unsigned SubjectFile::host_type()
+{
+    if (!host_type_) {
+        const HostLocation location(path_);
+        struct stat info;
+        host_type_ = fstatat(location.folder(), location.name(), &info, 0) == 0 ? info.st_mode & S_IFMT : 0;
+    }
+    return *host_type_;
 }
 
 void SubjectFile::open()
 {
     is_opened_ = true;
-    const HostLocation location(path_);
-    const auto is_regular = [](const struct stat& info) { return S_ISREG(info.st_mode); };
-    struct stat info;
-    if (fstatat(location.folder(), location.name(), &info, 0) != 0 || !is_regular(info))
+    if (host_type() != S_IFREG)
         return;
-    // The file can become a fifo between the two calls: O_NONBLOCK keeps the open from waiting for a writer.
-    Descriptor descriptor = location.open(O_RDONLY | O_NOCTTY | O_NONBLOCK);
-    if (!descriptor || fstat(descriptor.get(), &info) != 0 || !is_regular(info))
+    // The file can have become a fifo since: O_NONBLOCK keeps the open from waiting for a writer.
+    Descriptor descriptor = HostLocation(path_).open(O_RDONLY | O_NOCTTY | O_NONBLOCK);
+    struct stat info;
+    if (!descriptor || fstat(descriptor.get(), &info) != 0 || !S_ISREG(info.st_mode))
         return;
     descriptor_ = std::move(descriptor);
     size_ = static_cast<std::uint64_t>(info.st_size);
@@ -81,6 +90,12 @@ const std::string& SubjectFile::head()
         head_ = read_text(0, head_size);
     }
     return *head_;
+}
+
+void SubjectFile::close()
+{
+    descriptor_ = Descriptor();
+    is_opened_ = false;
 }
 
 void SubjectFile::start_allowance()

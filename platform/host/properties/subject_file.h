@@ -38,7 +38,11 @@ public:
     /// Empty when the path leads nowhere.
     const std::optional<FileAttributes>& attributes() const { return attributes_; }
 
+    /// `Other` for what is no regular file.
     FileKind kind();
+
+    /// What the path leads to, links followed: the type bits of st_mode. 0 when it leads nowhere.
+    unsigned host_type();
 
     /// -1 when the path leads to no regular file that may be read.
     int descriptor();
@@ -55,6 +59,9 @@ public:
     std::string read_text(std::uint64_t offset, std::size_t count);
     bool has_allowance() const;
 
+    /// Gives the descriptor back; the next look at the content opens the file again.
+    void close();
+
 private:
     std::u16string path_;
     std::optional<FileAttributes> attributes_;
@@ -63,6 +70,7 @@ private:
     std::uint64_t size_ = 0;
     std::optional<std::string> head_;
     std::optional<FileKind> kind_;
+    std::optional<unsigned> host_type_;
     std::uint64_t bytes_left_ = 0;
     std::chrono::steady_clock::time_point deadline_;
 

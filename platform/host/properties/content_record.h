@@ -1,0 +1,25 @@
+#pragma once
+
+#include "platform/host/properties/property_bag.h"
+#include "platform/host/properties/subject_file.h"
+
+#include <memory>
+
+namespace platform {
+
+/// What readers found in one file so far.
+struct FileRecord {
+    explicit FileRecord(std::u16string_view path) : file(path) {}
+
+    SubjectFile file;
+    PropertyBag bag;
+    /// Sets of `Reader`: those that looked at the file, and those among them that knew its format.
+    unsigned asked = 0, knew = 0;
+};
+
+/// The record of the path's content. A thread keeps those of its last few files, so that a text with several
+/// properties of one file reads it once. One comes back as long as the file's identity, size and times are the same;
+/// else a new one begins. Both the record and the file's descriptor in it are the calling thread's.
+std::shared_ptr<FileRecord> content_record(std::u16string_view path);
+
+}
