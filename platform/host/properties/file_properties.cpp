@@ -2,9 +2,11 @@
 #include "platform/host/properties/property_table.h"
 #include "platform/host/properties/readers.h"
 
+#include <map>
+
 namespace platform {
 
-/// Reads with one library after another, each at most once, and keeps what they found.
+/// Reads with one library after another, each at most once, and keeps what it found.
 class FileProperties::Source
 {
 public:
@@ -24,26 +26,32 @@ public:
         for (const auto& reader : built_in_readers()) {
             if ((wanted & reader.readers) == 0)
                 continue;
-            ask(reader);
-            if ((knew_ & reader.readers) != 0)
-                break;
+            const Findings& findings = findings_of(reader);
+            const PropertyValue* const value = findings.bag.find(row.name);
+            if (value || findings.are_complete)
+                return value;
         }
-        return bag_.find(row.name);
+        return nullptr;
     }
 
 private:
-    SubjectFile file_;
-    PropertyBag bag_;
-    unsigned asked_ = 0, knew_ = 0;
+    struct Findings {
+        PropertyBag bag;
+        bool are_complete = false;
+    };
 
-    void ask(const ReaderRow& reader)
+    SubjectFile file_;
+    /// Apart, so that of two libraries with a value for one name the first counts, whichever was asked before.
+    std::map<unsigned, Findings> findings_;
+
+    const Findings& findings_of(const ReaderRow& reader)
     {
-        if ((asked_ & reader.readers) != 0)
-            return;
-        asked_ |= reader.readers;
-        file_.start_allowance();
-        if (reader.read(file_, bag_))
-            knew_ |= reader.readers;
+        const auto [place, is_new] = findings_.try_emplace(reader.readers);
+        if (is_new) {
+            file_.start_allowance();
+            place->second.are_complete = reader.read(file_, place->second.bag);
+        }
+        return place->second;
     }
 };
 
