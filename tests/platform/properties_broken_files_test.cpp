@@ -13,6 +13,14 @@
 
 using platform::FileProperties;
 
+#ifdef __SANITIZE_ADDRESS__
+/// Freed memory that the sanitizer keeps back is not the reader's.
+extern "C" const char* __asan_default_options()
+{
+    return "quarantine_size_mb=16";
+}
+#endif
+
 namespace {
 
 std::string content_of(const std::string& host_path)

@@ -15,7 +15,8 @@ bool answer(const platform::MediaRequest& request)
         const std::string name(rest.substr(0, rest.find('\0')));
         rest.remove_prefix(std::min(name.size() + 1, rest.size()));
         const std::string text = streams.field(name);
-        if (!text.empty() && !platform::send_media_answer(socket_to_platform, name + '\0' + text))
+        const std::string message = (name + '\0').append(text);
+        if (!text.empty() && !platform::send_media_answer(socket_to_platform, message))
             return false;
     }
     return platform::send_media_answer(socket_to_platform, platform::end_of_media_answers);
@@ -28,7 +29,10 @@ bool answer(const platform::MediaRequest& request)
 int main()
 {
     platform::limit_resources();
-    while (const auto request = platform::receive_media_request(socket_to_platform)) {
+    for (;;) {
+        const auto request = platform::receive_media_request(socket_to_platform);
+        if (!request)
+            break;
         platform::restart_alarm();
         if (!answer(*request))
             break;

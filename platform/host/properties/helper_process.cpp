@@ -1,13 +1,13 @@
 #include "platform/host/properties/helper_process.h"
 
 #include <fcntl.h>
-#include <signal.h>
 #include <spawn.h>
 #include <sys/socket.h>
 #include <sys/wait.h>
 
 #include <array>
 #include <chrono>
+#include <csignal>
 #include <mutex>
 #include <thread>
 #include <vector>
