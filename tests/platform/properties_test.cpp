@@ -417,16 +417,18 @@ TEST(Properties, OnlyRegularFilesAreOpened)
     const TempFolder folder;
     mkfifo(folder.host("fifo.mp3").c_str(), 0600);
     mkfifo(folder.host("fifo").c_str(), 0600);
+    mkfifo(folder.host("fifo.mkv").c_str(), 0600);
     folder.make_folder("folder.jpg");
     folder.make_link("to fifo.docx", "fifo");
     folder.make_link("to nothing.pdf", "gone");
     folder.make_link("zero.png", "/dev/zero");
     folder.write("empty.mp4");
     for (const char* const name :
-         {"fifo.mp3", "fifo", "folder.jpg", "to fifo.docx", "to nothing.pdf", "zero.png", "empty.mp4"}) {
+         {"fifo.mp3", "fifo", "fifo.mkv", "folder.jpg", "to fifo.docx", "to nothing.pdf", "zero.png", "empty.mp4"}) {
         FileProperties file(folder.path(name));
         EXPECT_EQ(both(file, u"System.Title"), "-") << name;
         EXPECT_EQ(both(file, u"System.Image.Dimensions"), "-") << name;
+        EXPECT_EQ(both(file, u"System.Video.FrameWidth"), "-") << name;
         EXPECT_FALSE(file.names().empty()) << name;
     }
     const auto type_of = [&folder](const char* name) {

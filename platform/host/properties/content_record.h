@@ -3,18 +3,26 @@
 #include "platform/host/properties/property_bag.h"
 #include "platform/host/properties/subject_file.h"
 
+#include <map>
 #include <memory>
 
 namespace platform {
+
+/// What one reader found.
+struct Findings {
+    PropertyBag bag;
+    /// The reader knew the format: what it didn't find is not there.
+    bool are_complete = false;
+};
 
 /// What readers found in one file so far.
 struct FileRecord {
     explicit FileRecord(std::u16string_view path) : file(path) {}
 
     SubjectFile file;
-    PropertyBag bag;
-    /// Sets of `Reader`: those that looked at the file, and those among them that knew its format.
-    unsigned asked = 0, knew = 0;
+    /// By the readers' flags, those that looked at the file. Apart, so that of two libraries with a value for one name
+    /// the first counts, whichever was asked before.
+    std::map<unsigned, Findings> findings;
 };
 
 /// The record of the path's content. A thread keeps those of its last few files, so that a text with several

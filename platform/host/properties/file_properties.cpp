@@ -9,16 +9,14 @@ namespace {
 
 constexpr unsigned without_content = FromPath | FromFileSystem;
 
-/// True when the reader knew the file's format.
-bool ask(const ReaderRow& reader, FileRecord& record)
+const Findings& findings_of(const ReaderRow& reader, FileRecord& record)
 {
-    if ((record.asked & reader.readers) == 0) {
-        record.asked |= reader.readers;
+    const auto [place, is_new] = record.findings.try_emplace(reader.readers);
+    if (is_new) {
         record.file.start_allowance();
-        if (reader.read(record.file, record.bag))
-            record.knew |= reader.readers;
+        place->second.are_complete = reader.read(record.file, place->second.bag);
     }
-    return (record.knew & reader.readers) != 0;
+    return place->second;
 }
 
 bool has_number(const PropertyValue* value, std::int64_t number)
@@ -26,16 +24,21 @@ bool has_number(const PropertyValue* value, std::int64_t number)
     return value && to_int64(*value) == number;
 }
 
-/// Asks those of the readers that the row names, up to the first one that knows the format.
+/// Asks those of the readers that the row names, up to the first one that has the value or knows that it isn't there.
 const PropertyValue* find_in(FileRecord& record, const PropertyRow& row, unsigned readers)
 {
     readers &= row.readers;
     if (readers == 0)
         return nullptr;
-    for (const auto& reader : built_in_readers())
-        if ((readers & reader.readers) != 0 && ask(reader, record))
-            break;
-    return record.bag.find(row.name);
+    for (const auto& reader : built_in_readers()) {
+        if ((readers & reader.readers) == 0)
+            continue;
+        const Findings& findings = findings_of(reader, record);
+        const PropertyValue* const value = findings.bag.find(row.name);
+        if (value || findings.are_complete)
+            return value;
+    }
+    return nullptr;
 }
 
 }

@@ -11,15 +11,14 @@ namespace platform {
 
 namespace {
 
-/// What one library may read of one file, and how long it may take. A call costs something too, so that a library
-/// that runs in circles over a few bytes comes to its end.
-constexpr std::uint64_t allowed_bytes = 64 << 20, cost_of_call = 256;
 constexpr std::chrono::seconds allowed_time{2};
 constexpr std::size_t head_size = 4096;
 
 }
 
-SubjectFile::SubjectFile(std::u16string_view path) : path_(path), attributes_(file_attributes(path_)) {}
+SubjectFile::SubjectFile(std::u16string_view path)
+    : path_(path), attributes_(file_attributes(path_)), allowance_(allowed_time)
+{}
 
 std::u16string_view SubjectFile::name() const
 {
@@ -100,24 +99,15 @@ void SubjectFile::close()
 
 void SubjectFile::start_allowance()
 {
-    bytes_left_ = allowed_bytes;
-    deadline_ = std::chrono::steady_clock::now() + allowed_time;
-}
-
-bool SubjectFile::has_allowance() const
-{
-    return bytes_left_ > cost_of_call && std::chrono::steady_clock::now() < deadline_;
+    allowance_ = ReadAllowance(allowed_time);
 }
 
 std::size_t SubjectFile::read_at(std::uint64_t offset, char* out, std::size_t count)
 {
-    if (offset >= size() || !has_allowance())
+    if (offset >= size())
         return 0;
-    const auto wanted = std::min<std::uint64_t>({count, size_ - offset, bytes_left_ - cost_of_call});
-    const ssize_t read = pread(descriptor(), out, static_cast<std::size_t>(wanted), static_cast<off_t>(offset));
-    const auto result = static_cast<std::size_t>(std::max<ssize_t>(read, 0));
-    bytes_left_ -= result + cost_of_call;
-    return result;
+    const auto wanted = static_cast<std::size_t>(std::min<std::uint64_t>(count, size_ - offset));
+    return allowance_.read_at(descriptor(), offset, out, wanted);
 }
 
 std::string SubjectFile::read_text(std::uint64_t offset, std::size_t count)

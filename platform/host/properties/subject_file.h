@@ -2,8 +2,8 @@
 
 #include "platform/files.h"
 #include "platform/host/descriptor.h"
+#include "platform/host/properties/read_allowance.h"
 
-#include <chrono>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -16,6 +16,9 @@ enum class FileKind { Other, Image, Audio, Video, Pdf, Office };
 
 /// `extension` with its dot, in any case. Empty for one that tells nothing.
 std::optional<FileKind> kind_by_extension(std::u16string_view extension);
+
+/// True for one that films have and other files as well, so that only the content tells.
+bool is_ambiguous(std::u16string_view extension);
 
 /// By the first bytes of the content.
 FileKind kind_by_content(std::string_view head);
@@ -57,7 +60,8 @@ public:
     std::size_t read_at(std::uint64_t offset, char* out, std::size_t count);
     /// The bytes from `offset` on, `count` at the most.
     std::string read_text(std::uint64_t offset, std::size_t count);
-    bool has_allowance() const;
+
+    bool has_allowance() const { return allowance_.is_left(); }
 
     /// Gives the descriptor back; the next look at the content opens the file again.
     void close();
@@ -71,8 +75,7 @@ private:
     std::optional<std::string> head_;
     std::optional<FileKind> kind_;
     std::optional<unsigned> host_type_;
-    std::uint64_t bytes_left_ = 0;
-    std::chrono::steady_clock::time_point deadline_;
+    ReadAllowance allowance_;
 
     void open();
 };

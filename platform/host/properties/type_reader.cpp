@@ -51,9 +51,10 @@ QMimeType type_of(SubjectFile& file)
         return database.mimeTypeForName(QString::fromLatin1(name));
     std::u16string name(file.name());
     make_presentable(name);
-    const std::string& head = file.head();
-    return database.mimeTypeForFileNameAndData(QString::fromStdU16String(name),
-                                               QByteArray(head.data(), static_cast<qsizetype>(head.size())));
+    const QByteArray head(file.head().data(), static_cast<qsizetype>(file.head().size()));
+    if (is_ambiguous(file.extension()) && !head.isEmpty())
+        return database.mimeTypeForData(head);
+    return database.mimeTypeForFileNameAndData(QString::fromStdU16String(name), head);
 }
 
 void set_kind(PropertyBag& bag, const std::u16string& mime_name)
