@@ -10,6 +10,7 @@
 
 struct NameExpression::Compiled {
     boost::wregex expression;
+    std::int64_t looks = 0;
 };
 
 namespace {
@@ -27,6 +28,7 @@ NameExpression::NameExpression(std::u16string_view pattern)
         auto compiled = std::make_unique<Compiled>();
         compiled->expression.imbue(letters_locale());
         compiled->expression.assign(from_ecmascript(pattern), boost::regex::perl | boost::regex::icase);
+        compiled->looks = looks_for(pattern);
         compiled_ = std::move(compiled);
     } catch (const std::exception&) {
         // What can't be compiled is an invalid expression, whatever the library's reason.
@@ -42,7 +44,7 @@ bool NameExpression::is_found_in(std::u16string_view name) const
         return false;
     const std::wstring text = widened(name);
     // The library's own limit is on states, of which a pattern with many repeats makes too few, each taking too long.
-    SearchBudget budget;
+    SearchBudget budget(compiled_->looks);
     const CountingIterator begin(text.data(), budget), end(text.data() + text.size(), budget);
     try {
         boost::match_results<CountingIterator> where;

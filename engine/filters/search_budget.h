@@ -1,29 +1,30 @@
 #pragma once
 
-#include <chrono>
 #include <cstdint>
+#include <string_view>
 
-/// How much a search may still do. It is over after 2,000,000 looks at the text, everywhere the same: a hundred times
-/// what an ordinary expression takes for the longest name, and some 30 ms. Where single looks take long, as in
-/// classes of thousands of ranges, it is over after 50 ms.
+/// How much a search may still do: a number of looks at the text, so that a name matches or doesn't whatever else the
+/// machine is doing.
 class SearchBudget
 {
 public:
+    /// See `looks_for`.
+    explicit SearchBudget(std::int64_t looks) : left_(looks) {}
+
     /// Takes one look from it. Throws std::runtime_error when there is none left.
     void spend()
     {
-        if (--left_of_slice_ == 0)
-            begin_next_slice();
+        if (--left_ < 0)
+            give_up();
     }
 
 private:
-    using Clock = std::chrono::steady_clock;
-    static constexpr std::int32_t slice = 8192, slices = 2'000'000 / slice;
+    std::int64_t left_;
 
-    void begin_next_slice();
-
-    std::int32_t left_of_slice_ = slice;
-    std::int32_t slices_done_ = 0;
-    /// Set after the first slice, so that ordinary searches never ask for the time.
-    Clock::time_point begin_;
+    [[noreturn]] static void give_up();
 };
+
+/// The looks at the text that a search for the pattern may take: a hundred times what an ordinary expression takes
+/// for the longest name, and less where single looks take long, as in classes of thousands of ranges. All searches
+/// end within some 50 ms on a machine of today.
+std::int64_t looks_for(std::u16string_view pattern);

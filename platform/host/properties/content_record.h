@@ -20,8 +20,8 @@ struct FileRecord {
     explicit FileRecord(std::u16string_view path) : file(path) {}
 
     SubjectFile file;
-    /// By the readers' flags, those that looked at the file. Apart, so that of two libraries with a value for one name
-    /// the first counts, whichever was asked before.
+    /// By the readers' flags, those that looked at the file. Apart, so that of two libraries with a value for one
+    /// name the first counts, whichever was asked before.
     std::map<unsigned, Findings> findings;
 };
 
