@@ -1,7 +1,12 @@
 #include "bench_files.h"
 
+#include "engine/commands/checksum_pool.h"
+#include "engine/commands/folder_walk.h"
 #include "engine/commands/vellumark_command.h"
+#include "engine/items/cancel_point.h"
+#include "engine/items/mv_item_folder.h"
 #include "engine/items/mv_items_set.h"
+#include "engine/parts/item_progress_sink.h"
 #include "engine/runner/vellumark_thread.h"
 #include "platform/paths.h"
 
@@ -15,6 +20,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <random>
 #include <stdexcept>
 #include <string_view>
 #include <thread>
@@ -106,9 +112,89 @@ void cancel_sorting(benchmark::State& state)
     cancel_after(state, std::chrono::milliseconds(100), command, [&] { return selection; });
 }
 
+class FlagSink final : public ItemProgressSink
+{
+public:
+    bool is_cancelled() override { return cancelled; }
+
+    void report_item(std::u16string_view) override {}
+
+    void report_status(std::u16string_view) override {}
+
+    std::atomic<bool> cancelled = false;
+};
+
+using Items = std::vector<const MVItemBase*>;
+
+/// The same for one step of a run, on a million items that it has not seen before.
+void cancel_step(benchmark::State& state, const MVItemInfo& info,
+                 const std::function<void(const Items&, ItemProgressSink&)>& step)
+{
+    const BenchFiles files(0);
+    files.write("small", "content");
+    const MVItemsSet parent(files.folder());
+    double longest = 0;
+    while (state.KeepRunning()) {
+        std::vector<std::shared_ptr<MVItemBase>> owned;
+        Items items;
+        while (items.size() < 1'000'000)
+            items.push_back(
+                owned.emplace_back(make_item(info, static_cast<MVItemFolder*>(parent.items()[0].get()))).get());
+        std::ranges::shuffle(items, std::mt19937(1));
+        FlagSink sink;
+        Clock::time_point end;
+        std::thread run([&] {
+            try {
+                step(items, sink);
+            } catch (const Cancelled&) {
+            }
+            end = Clock::now();
+        });
+        std::this_thread::sleep_for(std::chrono::milliseconds(state.range(0)));
+        const auto begin = Clock::now();
+        sink.cancelled = true;
+        run.join();
+        if (end < begin)
+            throw std::runtime_error("the step was over before it could be cancelled");
+        const double seconds = std::chrono::duration<double>(end - begin).count();
+        state.SetIterationTime(seconds);
+        longest = std::max(longest, seconds * 1e3);
+    }
+    state.counters["longest_ms"] = longest;
+}
+
+void cancel_checksums(benchmark::State& state)
+{
+    cancel_step(state, {.name = u"small"}, [](const Items& items, ItemProgressSink& sink) {
+        precache_checksums(items, {ChecksumType::Crc32, ChecksumType::XxHash64}, false, sink);
+    });
+}
+
+/// Folders that have yet to be read, and don't exist.
+void cancel_folder_list(benchmark::State& state)
+{
+    cancel_step(state, {.name = u"missing", .is_folder = true},
+                [](const Items& items, ItemProgressSink& sink) { precache_folders(items, sink); });
+}
+
 }
 
 BENCHMARK(cancel_hashing)->UseManualTime()->Iterations(20)->Unit(benchmark::kMillisecond);
 BENCHMARK(cancel_reading)->Arg(20)->Arg(80)->UseManualTime()->Iterations(20)->Unit(benchmark::kMillisecond);
+BENCHMARK(cancel_checksums)
+    ->Arg(20)
+    ->Arg(100)
+    ->Arg(300)
+    ->Arg(2'000)
+    ->UseManualTime()
+    ->Iterations(5)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(cancel_folder_list)
+    ->Arg(10)
+    ->Arg(50)
+    ->Arg(100)
+    ->UseManualTime()
+    ->Iterations(5)
+    ->Unit(benchmark::kMillisecond);
 BENCHMARK(cancel_assembling)->UseManualTime()->Iterations(20)->Unit(benchmark::kMillisecond);
 BENCHMARK(cancel_sorting)->UseManualTime()->Iterations(20)->Unit(benchmark::kMillisecond);

@@ -13,13 +13,13 @@ import sys
 
 sys.dont_write_bytecode = True
 
-from comparison import checksums, memory, nested, tree
+from comparison import checksums, memory, metadata, nested, tree
 from comparison.measure import ComparisonError, Machine
 from comparison.report import Report
 from comparison.workspace import Workspace, temporary_folder
 
 # In this order: peak memory is best told by a process that has not grown itself.
-SECTIONS = {"memory": memory, "tree": tree, "nested": nested, "checksums": checksums}
+SECTIONS = {"memory": memory, "tree": tree, "nested": nested, "checksums": checksums, "metadata": metadata}
 DEFAULT_TOOL = pathlib.Path(__file__).resolve().parent.parent / "build" / "release" / "bin" / "vellumark-text"
 
 

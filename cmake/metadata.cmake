@@ -35,3 +35,11 @@ if(VELLUMARK_WITH_MEDIAINFO)
   target_compile_definitions(metadata_mediainfo INTERFACE UNICODE)
   target_link_libraries(metadata_mediainfo INTERFACE ${MEDIAINFO_LIBRARY} ${ZEN_LIBRARY})
 endif()
+
+# 1 for a build that reads all properties there are.
+set(VELLUMARK_HAS_ALL_METADATA 1)
+foreach(library QTGUI EXIF TAGLIB MEDIAINFO QPDF LIBZIP)
+  if(NOT VELLUMARK_WITH_${library})
+    set(VELLUMARK_HAS_ALL_METADATA 0)
+  endif()
+endforeach()

@@ -62,9 +62,13 @@ std::optional<std::u16string> to_text(const PropertyValue& value);
 std::optional<std::int64_t> to_local_file_time(const PropertyValue& value);
 
 /// The properties of one file. Opens the file with a metadata library only when a property asks for one, at most once
-/// a library. Only regular files are opened, links followed; what the file system knows of a link is its own. A
-/// broken or hostile file has fewer properties, nothing else. What was read stays as it was for the object's life.
-/// One object serves one thread; several objects may be at work at once.
+/// a library, and leaves it open for its own life at the most. What the libraries found is remembered for the
+/// thread's last few files, a few MiB at the worst, so that further objects for the same path needn't open the file
+/// as long as its identity (device and number), size and times are the same. A file that changed within the last two
+/// seconds is read anew each time: a next change might not show in its times. Only regular files are opened, links
+/// followed; what the file system knows of a link is its own. A broken or hostile file has fewer properties, nothing
+/// else. What was read stays as it was for the object's life. One object serves the thread that made it; several
+/// objects may be at work at once.
 class FileProperties
 {
 public:
@@ -74,8 +78,8 @@ public:
     FileProperties(const FileProperties&) = delete;
     FileProperties& operator=(const FileProperties&) = delete;
 
-    /// Canonical names of the properties that a file of this kind can have, in a stable order: general ones, then
-    /// those of the kind. Empty when the file is gone.
+    /// Canonical names of the properties for lists, in a stable order: general ones that the file has, then those
+    /// that files of its kind can have. Empty when the file is gone.
     std::vector<std::u16string> names();
 
     /// Empty when the file doesn't have the property, or its name is unknown.

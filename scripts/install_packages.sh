@@ -16,7 +16,7 @@ declare -Ar groups=(
         libboost-json1.81-dev libboost-filesystem1.81-dev libboost-regex1.81-dev libboost-program-options1.81-dev"
     [test]="libgtest-dev python3 strace"
     [lint]="git python3 clang-format clang-tidy-16 shellcheck"
-    [bench]="libbenchmark-dev python3 openssl xxhash rhash findutils"
+    [bench]="libbenchmark-dev python3 openssl xxhash rhash findutils libimage-exiftool-perl"
     [fuzz]="clang-16 libclang-rt-16-dev"
 )
 

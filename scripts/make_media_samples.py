@@ -3,6 +3,8 @@
 
     scripts/make_media_samples.py [FOLDER]      (default: samples/ of the checkout)
 
+With them come the films below tests/platform/films, one of each container, which the tests alone read.
+
 Sound and pictures are made by ffmpeg from test signals and all tags are invented here, so nothing of anyone else is in
 them. Other ffmpeg versions encode to other bytes with the same metadata.
 """
@@ -160,6 +162,19 @@ def film(folder):
             "creation_time": "2021-06-07T08:09:10Z"})
 
 
+def test_films(folder):
+    folder.mkdir(exist_ok=True)
+    picture, sound = "color=c=navy:size=32x24:rate=5:duration=1", "sine=frequency=440:sample_rate=8000:duration=1"
+    tags = {"title": "Small Film", "artist": "Ada Ring", "album": "Reels", "genre": "Still", "date": "2021-02-03",
+            "comment": "Made of a test signal"}
+    ffmpeg(folder / "silent.mp4", [picture], ["-c:v", "mpeg4"], tags)
+    ffmpeg(folder / "silent.wmv", [picture], ["-c:v", "wmv2"], tags)
+    ffmpeg(folder / "sounding.wmv", [picture, sound], ["-c:v", "wmv2", "-c:a", "wmav2", "-b:a", "24k"], tags)
+    ffmpeg(folder / "sounding.avi", [picture, sound], ["-c:v", "mpeg4", "-c:a", "pcm_u8"], tags)
+    ffmpeg(folder / "silent.mkv", [picture], ["-c:v", "mpeg4"], tags)
+    ffmpeg(folder / "silent.ts", ["color=c=navy:size=32x24:rate=25:duration=1"], ["-c:v", "mpeg2video"], tags)
+
+
 def pdf(folder):
     objects = [
         b"<< /Type /Catalog /Pages 2 0 R /Lang (en-GB) >>",
@@ -257,6 +272,8 @@ def main():
         (folder / name).mkdir(parents=True, exist_ok=True)
     for make in (photo, songs, film, pdf, docx, odt):
         make(folder)
+    if len(sys.argv) == 1:
+        test_films(checkout / "tests" / "platform" / "films")
 
 
 main()

@@ -12,8 +12,7 @@ namespace json = boost::json;
 
 namespace {
 
-constexpr std::string_view menu_key = "menuCommands", library_key = "commandsLibrary",
-                           presets_key = "extensionsPresets";
+constexpr std::string_view library_key = "commandsLibrary", presets_key = "extensionsPresets";
 
 CommandList read_list(const json::array& array)
 {
@@ -23,16 +22,6 @@ CommandList read_list(const json::array& array)
             if (auto command = command_from_json(*object))
                 list.push_back(std::move(command));
     return list;
-}
-
-CommandList read_menu(const json::object& file)
-{
-    const json::value* menu = file.if_contains(menu_key);
-    if (!menu)
-        throw std::runtime_error("JSON value missing: " + std::string(menu_key));
-    if (!menu->is_array())
-        throw std::runtime_error("JSON value not an array: " + std::string(menu_key));
-    return read_list(menu->get_array());
 }
 
 std::vector<ExtensionsPreset> load_default_presets()
@@ -104,14 +93,6 @@ json::array list_to_json(const CommandList& list)
     return array;
 }
 
-json::array menu_to_json(const CommandList& menu)
-{
-    json::array array = list_to_json(menu);
-    for (json::value& element : array)
-        element.as_object()["showInMenu"] = true;
-    return array;
-}
-
 void write_in_one_step(std::u16string_view path, std::string_view content)
 {
     switch (platform::replace_content(path, content)) {
@@ -125,10 +106,28 @@ void write_in_one_step(std::u16string_view path, std::string_view content)
 
 namespace commands_file {
 
+CommandList menu_from_json(const json::object& file)
+{
+    const json::value* menu = file.if_contains(menu_key);
+    if (!menu)
+        throw std::runtime_error("JSON value missing: " + std::string(menu_key));
+    if (!menu->is_array())
+        throw std::runtime_error("JSON value not an array: " + std::string(menu_key));
+    return read_list(menu->get_array());
+}
+
+json::array menu_to_json(const CommandList& menu)
+{
+    json::array array = list_to_json(menu);
+    for (json::value& element : array)
+        element.as_object()["showInMenu"] = true;
+    return array;
+}
+
 StoredCommands from_json(const json::object& file)
 {
     StoredCommands commands;
-    commands.menu = read_menu(file);
+    commands.menu = menu_from_json(file);
     commands.presets = read_presets_of(file);
     if (const json::value* library = file.if_contains(library_key)) {
         if (const json::array* array = library->if_array())

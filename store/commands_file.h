@@ -37,6 +37,13 @@ StoredCommands from_json(const boost::json::object& file);
 boost::json::object to_json(const CommandList& menu, const CommandList& library,
                             const std::vector<ExtensionsPreset>& presets);
 
+/// The commands under a file's `menu_key`. Throws std::runtime_error "JSON value missing: menuCommands" or "JSON
+/// value not an array: menuCommands", and what a command's reader throws.
+CommandList menu_from_json(const boost::json::object& file);
+/// What stands there: every command is shown in the menu.
+boost::json::array menu_to_json(const CommandList& menu);
+inline constexpr std::string_view menu_key = "menuCommands";
+
 /// Writes the user's file in one step by way of a temporary file beside it, "VKCmds.json+", which is never read: the
 /// old file stays whole until the new one is. Where the file is a link, that stays and what it leads to is replaced.
 /// Of two programs that save at once the second waits, up to a second; whichever is last is then the file. File-name

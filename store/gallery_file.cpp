@@ -36,6 +36,12 @@ GalleryEntry read_entry(const json::value& element)
 
 }
 
+void append_gallery_entries(const json::object& file, std::vector<GalleryEntry>& entries)
+{
+    for (const json::value& element : commands_of(file))
+        entries.push_back(read_entry(element));
+}
+
 void read_gallery(std::vector<GalleryEntry>& entries)
 {
     entries.clear();
@@ -46,6 +52,5 @@ void read_gallery(std::vector<GalleryEntry>& entries)
     const json::object* file = value.if_object();
     if (!file)
         throw JsonFileReaderException(path, JsonFileStatus::InvalidData, "Root element is not a JSON object");
-    for (const json::value& element : commands_of(*file))
-        entries.push_back(read_entry(element));
+    append_gallery_entries(*file, entries);
 }

@@ -18,3 +18,6 @@ struct GalleryEntry {
 /// and std::exception for an entry that isn't a file-name command. `entries` then has those before it. Main thread
 /// only.
 void read_gallery(std::vector<GalleryEntry>& entries);
+
+/// What `read_gallery` makes of a file's value. Throws std::exception as it does; `entries` then has those before.
+void append_gallery_entries(const boost::json::object& file, std::vector<GalleryEntry>& entries);

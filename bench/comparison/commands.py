@@ -27,6 +27,15 @@ def checksum(kind):
     return {"item-type": "checksum", "checksum-type": kind, "uppercase": False}
 
 
+def property_text(name):
+    return {"item-type": "property", "property-name": name}
+
+
+def property_date(name):
+    return {"item-type": "property", "property-name": name, "custom-format": True, "value-type": "datetime",
+            "date-format": "iso-date-time", "add-leading-zeros": True}
+
+
 def folder_contents(kind, indent):
     return {"item-type": kind, "indentText": indent, "startText": "\n", "endText": ""}
 

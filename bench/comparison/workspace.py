@@ -56,6 +56,13 @@ class Workspace:
                         file.write(os.urandom(BLOCK))
         return sorted(self._made(f"random-{count}-{size}", fill).iterdir())
 
+    def files(self, title, contents):
+        """Paths of files with these names and contents."""
+        def fill(root):
+            for name, content in contents.items():
+                (root / name).write_bytes(content)
+        return sorted(self._made(f"{title}-{len(contents)}", fill).iterdir())
+
     def _made(self, name, fill):
         wanted, unfinished = self.folder / name, self.folder / f"{name}.unfinished"
         if not wanted.exists():

@@ -5,7 +5,9 @@
 #include "engine/items/mv_item_folder.h"
 #include "engine/parts/item_progress_sink.h"
 
-#include <unordered_set>
+#include <boost/unordered/unordered_flat_set.hpp>
+
+#include <array>
 #include <utility>
 #include <vector>
 
@@ -14,7 +16,22 @@ namespace {
 struct Job {
     const MVItemBase* file = nullptr;
     ChecksumType type{};
-    std::u16string text = {};
+};
+
+/// Files met before. Growing one large set would take long, with no chance to ask for cancellation meanwhile; each of
+/// many small ones grows in no time.
+class SeenFiles
+{
+public:
+    /// False when the file has been added before.
+    bool add(const MVItemBase& file)
+    {
+        const std::size_t hash = boost::hash<const MVItemBase*>()(&file);
+        return sets_[hash % sets_.size()].insert(&file).second;
+    }
+
+private:
+    std::array<boost::unordered_flat_set<const MVItemBase*>, 64> sets_;
 };
 
 class JobList
@@ -28,7 +45,7 @@ public:
     {
         cancel_point_.step();
         // A file can be selected and stand below a selected folder as well.
-        if (!seen_.insert(&file).second)
+        if (!seen_.add(file))
             return;
         for (const ChecksumType type : types_)
             if (file.cached_checksum(type).empty())
@@ -54,30 +71,17 @@ public:
         }
     }
 
-    std::vector<Job>& jobs() { return jobs_; }
+    std::vector<Job> take() { return std::move(jobs_); }
 
 private:
     const std::set<ChecksumType>& types_;
     CancelPoint cancel_point_;
-    std::unordered_set<const MVItemBase*> seen_;
+    SeenFiles seen_;
     std::vector<Job> jobs_;
 };
 
-void compute(std::vector<Job>& jobs, ItemProgressSink& sink)
-{
-    const auto cancelled = [&] { return sink.is_cancelled(); };
-    for_each_parallel(jobs.size(), cancelled, [&](std::size_t index, std::size_t) {
-        Job& job = jobs[index];
-        const std::u16string path = job.file->full_path();
-        sink.report_item(path);
-        job.text = file_checksum(path, job.type, cancelled);
-    });
-}
-
-}
-
-void precache_checksums(std::span<const MVItemBase* const> items, const std::set<ChecksumType>& types,
-                        bool uses_folder_data, ItemProgressSink& sink)
+std::vector<Job> jobs_for(std::span<const MVItemBase* const> items, const std::set<ChecksumType>& types,
+                          bool uses_folder_data, ItemProgressSink& sink)
 {
     JobList list(types, [&] { return sink.is_cancelled(); });
     for (const MVItemBase* item : items) {
@@ -87,11 +91,30 @@ void precache_checksums(std::span<const MVItemBase* const> items, const std::set
                  uses_folder_data && folder.children_loaded())
             list.add_files_below(folder);
     }
-    if (list.jobs().empty())
+    return list.take();
+}
+
+void compute(const std::vector<Job>& jobs, ItemProgressSink& sink)
+{
+    const auto cancelled = [&] { return sink.is_cancelled(); };
+    for_each_parallel(jobs.size(), cancelled, [&](std::size_t index, std::size_t) {
+        const Job& job = jobs[index];
+        const std::u16string path = job.file->full_path();
+        sink.report_item(path);
+        // Stored at once: doing it for a million files in the end would keep a cancelled run from ending.
+        if (std::u16string text = file_checksum(path, job.type, cancelled); !text.empty())
+            job.file->store_checksum(job.type, std::move(text));
+    });
+}
+
+}
+
+void precache_checksums(std::span<const MVItemBase* const> items, const std::set<ChecksumType>& types,
+                        bool uses_folder_data, ItemProgressSink& sink)
+{
+    const std::vector<Job> jobs = jobs_for(items, types, uses_folder_data, sink);
+    if (jobs.empty())
         return;
     sink.report_status(u"Computing checksums...");
-    compute(list.jobs(), sink);
-    for (Job& job : list.jobs())
-        if (!job.text.empty())
-            job.file->store_checksum(job.type, std::move(job.text));
+    compute(jobs, sink);
 }

@@ -6,6 +6,7 @@
 #include "engine/parts/item_progress_sink.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace {
 
@@ -64,10 +65,16 @@ private:
 
 /// Leaves the folders that have yet to be read, each once. A drive selected twice is one node, and a selected folder
 /// can be found below another one as well; two threads must never read the same.
-void keep_unread(Folders& folders)
+void keep_unread(Folders& folders, CancelPoint& cancel_point)
 {
-    std::erase_if(folders, [](const MVItemFolder* folder) { return folder->children_loaded(); });
-    std::ranges::sort(folders);
+    std::erase_if(folders, [&](const MVItemFolder* folder) {
+        cancel_point.step();
+        return folder->children_loaded();
+    });
+    std::ranges::sort(folders, [&](const MVItemFolder* left, const MVItemFolder* right) {
+        cancel_point.step();
+        return std::less<>()(left, right);
+    });
     folders.erase(std::ranges::unique(folders).begin(), folders.end());
 }
 
@@ -107,12 +114,15 @@ Items expand_files(const MVItemsSet& selection, std::int32_t max_depth, ItemProg
 
 void precache_folders(std::span<const MVItemBase* const> items, ItemProgressSink& sink)
 {
+    CancelPoint cancel_point([&] { return sink.is_cancelled(); });
     Folders folders;
-    for (const MVItemBase* item : items)
+    for (const MVItemBase* item : items) {
+        cancel_point.step();
         if (item->is_folder())
             folders.push_back(static_cast<const MVItemFolder*>(item));
+    }
     for (int pass = 0; pass < max_folder_level; ++pass) {
-        keep_unread(folders);
+        keep_unread(folders, cancel_point);
         if (folders.empty() || sink.is_cancelled())
             return;
         folders = read_level(folders, sink);

@@ -18,5 +18,6 @@ std::vector<const MVItemBase*> expand_files(const MVItemsSet& selection, std::in
                                             ItemProgressSink& sink, const ItemFilter* folder_filter);
 
 /// Reads all folders in and below `items` ahead, level by level, each on one thread of a short pool. A selected link
-/// to a folder is read, a link found below is not. Stops soon after the sink cancels.
+/// to a folder is read, a link found below is not. Soon after the sink cancels it returns, or throws
+/// Cancelled; the folders that were read until then stay read.
 void precache_folders(std::span<const MVItemBase* const> items, ItemProgressSink& sink);

@@ -1,5 +1,6 @@
 #include "platform/known_folders.h"
 
+#include "platform/host/program_file.h"
 #include "platform/paths.h"
 
 #include <pwd.h>
@@ -71,14 +72,19 @@ std::optional<std::u16string> machine_settings_folder()
     return to_folder(first_absolute(std::getenv("XDG_CONFIG_DIRS")).value_or("/etc/xdg"));
 }
 
-std::u16string program_folder()
+std::string host_program_folder()
 {
     std::array<char, PATH_MAX> path;
     const ssize_t length = readlink("/proc/self/exe", path.data(), path.size());
     if (length <= 0)
         throw std::runtime_error("The system does not tell where the program lies");
     const std::string_view file(path.data(), static_cast<std::size_t>(length));
-    return to_folder(file.substr(0, file.rfind('/')));
+    return std::string(file.substr(0, file.rfind('/')));
+}
+
+std::u16string program_folder()
+{
+    return to_folder(host_program_folder());
 }
 
 }

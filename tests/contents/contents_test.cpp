@@ -174,6 +174,8 @@ std::string Contents::all_texts() const
 
 TEST_F(Contents, TextsAreTheReviewedOnes)
 {
+    if (!HAS_ALL_METADATA)
+        GTEST_SKIP() << "the reviewed texts have properties that this build doesn't read";
     const std::string texts = all_texts();
     if (std::getenv("VELLUMARK_WRITE_TEXTS")) {
         ASSERT_TRUE(std::ofstream(REVIEWED_TEXTS, std::ios::binary) << texts);

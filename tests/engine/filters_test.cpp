@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ctime>
+
 namespace {
 
 using Mode = ItemFilter::Mode;
@@ -94,11 +96,66 @@ TEST(ItemFilter, Matches)
     }
 }
 
+/// How often `text` stands one behind the other.
+std::u16string repeated(std::u16string_view text, int count)
+{
+    std::u16string all;
+    while (count-- > 0)
+        all += text;
+    return all;
+}
+
+/// A class of `count` ranges, which no name has a character of.
+std::u16string long_class(int count)
+{
+    std::u16string ranges;
+    for (int i = 0; i < count; ++i)
+        ranges.append({char16_t(0x3000 + 4 * i), u'-', char16_t(0x3001 + 4 * i)});
+    return u"[" + ranges + u"]";
+}
+
 TEST(ItemFilter, RunawayExpressionsEndWithoutAMatch)
 {
-    const std::u16string name = std::u16string(250, u'a') + u"!";
-    for (const auto* pattern : {u"^(a+)+$", u"^(a|aa)+$", u"(x+x+)+y|^(([a-z])+.)+[A-Z]([a-z])+$"})
-        EXPECT_FALSE(filter(Mode::Regex, pattern).matches(name)) << to_utf8(pattern);
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__) || !defined(__OPTIMIZE__)
+    constexpr int longest = 3000; // milliseconds of processor time
+#else
+    constexpr int longest = 100;
+#endif
+    const std::vector<std::u16string> patterns{
+        u"^(a+)+$",
+        u"^(a|aa)+$",
+        u"(x+x+)+y|^(([a-z])+.)+[A-Z]([a-z])+$",
+        u"(.*?,){30}P",
+        u"((a{1,9}){1,9}){1,9}b",
+        repeated(u"[a-z0-9]*", 30) + u"~",
+        repeated(u"[a-z0-9]*?", 100) + u"~",
+        repeated(u"(.*)", 300) + u"b",
+        repeated(u"(?:", 60) + repeated(u")*", 60) + u"b",
+        repeated(u"(", 300) + u"a*" + repeated(u")*", 300) + u"b",
+        u"(?:" + repeated(u"(a*)", 2000) + u"|a)*~",
+        repeated(u"(?:a|" + long_class(1000) + u")*", 30) + u"b",
+        repeated(u"[^" + long_class(1000).substr(1) + u"*", 30) + u"~",
+    };
+    for (const std::u16string& pattern : patterns) {
+        const ItemFilter made = filter(Mode::Regex, pattern);
+        ASSERT_TRUE(made.is_pattern_valid()) << to_utf8(pattern.substr(0, 60));
+        for (const std::u16string& name : {std::u16string(254, u'a') + u"!", std::u16string(255, u'9')}) {
+            const std::clock_t begin = std::clock();
+            EXPECT_FALSE(made.matches(name)) << to_utf8(pattern.substr(0, 60));
+            EXPECT_LT((std::clock() - begin) * 1000 / CLOCKS_PER_SEC, longest) << to_utf8(pattern.substr(0, 60));
+        }
+    }
+}
+
+TEST(ItemFilter, LongSearchesAreNoRunaways)
+{
+    const std::u16string long_name = std::u16string(250, u'x') + u"-1.txt";
+    std::u16string words = u"(?:";
+    for (int i = 100; i < 900; ++i)
+        words += u"x" + to_utf16(std::to_string(i)) + u"|";
+    for (const std::u16string& pattern : {words + u"-1)\\.txt$", std::u16string(u"(\\w+)-(\\w+)\\.txt$"),
+                                          std::u16string(u".*.*-1"), std::u16string(u"(?=.*1)(?=.*t$)x")})
+        EXPECT_TRUE(filter(Mode::Regex, pattern).matches(long_name)) << to_utf8(pattern.substr(0, 60));
 }
 
 TEST(ItemFilter, ChangesDropWhatWasCompiled)

@@ -16,6 +16,9 @@ struct Overloaded : Visitors... {
     using Visitors::operator()...;
 };
 
+template <typename... Visitors>
+Overloaded(Visitors...) -> Overloaded<Visitors...>;
+
 using Strings = std::vector<std::u16string>;
 
 /// The text as ASCII without blanks at its ends; empty when it holds anything else.
@@ -55,9 +58,8 @@ std::optional<double> finite(std::optional<double> value)
 std::optional<std::int64_t> round(std::optional<double> value)
 {
     constexpr double limit = 9'223'372'036'854'775'808.0;
-    if (!value || !(*value >= -limit && *value < limit))
-        return {};
-    return std::llrint(*value);
+    const bool is_in_range = value && *value >= -limit && *value < limit;
+    return is_in_range ? std::optional<std::int64_t>(std::llrint(*value)) : std::nullopt;
 }
 
 template <typename Result, typename Convert>
@@ -119,7 +121,8 @@ std::int64_t seconds_of(const BrokenDownTime& time)
 {
     using namespace std::chrono;
     const sys_days date = year(time.year) / month(time.month) / day(time.day);
-    return date.time_since_epoch().count() * std::int64_t{86'400} + time.hour * 3600 + time.minute * 60 + time.second;
+    const auto time_of_day = hours(time.hour) + minutes(time.minute) + seconds(time.second);
+    return (date.time_since_epoch() + time_of_day) / seconds(1);
 }
 
 }
@@ -184,7 +187,7 @@ std::optional<std::int64_t> to_local_file_time(const PropertyValue& value)
     const auto* const moment = std::get_if<FileTimeValue>(&value);
     const auto utc = moment ? to_utc_time(moment->ticks) : std::nullopt;
     const auto local = utc ? to_local_time(moment->ticks) : std::nullopt;
-    if (!local)
+    if (!utc || !local)
         return {};
     constexpr std::int64_t ticks_per_second = 10'000'000;
     return moment->ticks + (seconds_of(*local) - seconds_of(*utc)) * ticks_per_second;

@@ -96,6 +96,7 @@ std::u16string number_display(double number, Display display)
     case Display::YesNo: return number != 0 ? u"Yes" : u"No";
     case Display::Pixels: return digits(number) + u" pixels";
     case Display::Resolution: return digits(number) + u" dpi";
+    case Display::MetricResolution: return number_text(number, 1) + u" dots/cm";
     case Display::BitRate: return rate_text(number);
     case Display::SampleRate: return number_text(number / 1000, 3) + u" kHz";
     case Display::Bits: return number_text(number, 0) + u" bit";

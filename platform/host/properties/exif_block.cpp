@@ -1,5 +1,7 @@
 #include "platform/host/properties/exif_block.h"
 
+#include "platform/host/properties/heif_exif.h"
+
 #include <algorithm>
 
 namespace platform {
@@ -28,7 +30,9 @@ std::uint32_t little_endian(std::string_view bytes)
 
 std::string with_head(std::string block)
 {
-    return block.empty() || block.starts_with(exif_head) ? block : std::string(exif_head) + block;
+    if (!block.empty() && !block.starts_with(exif_head))
+        block.insert(0, exif_head);
+    return block;
 }
 
 /// Walks the marker segments up to the image data.
@@ -68,6 +72,17 @@ std::string in_chunks(SubjectFile& file, bool is_png)
     return {};
 }
 
+/// Some makers of cameras put letters of their own in the place of TIFF's 42, and the rest is TIFF.
+std::string as_tiff(std::string block)
+{
+    constexpr std::size_t magic_at = 2;
+    if (block.size() > magic_at + 1) {
+        block[magic_at] = block[0] == 'I' ? '*' : '\0';
+        block[magic_at + 1] = block[0] == 'I' ? '\0' : '*';
+    }
+    return block;
+}
+
 }
 
 std::string exif_block(SubjectFile& file)
@@ -80,8 +95,8 @@ std::string exif_block(SubjectFile& file)
     if (start.starts_with("RIFF"sv) && start.ends_with("WEBP"sv))
         return in_chunks(file, false);
     if (start.starts_with("II"sv) || start.starts_with("MM"sv))
-        return with_head(file.read_text(0, largest_block));
-    return {};
+        return with_head(as_tiff(file.read_text(0, largest_block)));
+    return with_head(heif_exif(file));
 }
 
 }

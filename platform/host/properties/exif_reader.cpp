@@ -1,3 +1,4 @@
+#include "platform/host/properties/camera_file.h"
 #include "platform/host/properties/exif_block.h"
 #include "platform/host/properties/exif_tags.h"
 #include "platform/host/properties/moments.h"
@@ -114,6 +115,14 @@ void set_altitude(const ExifTags& exif, PropertyBag& bag)
         bag.set(u"System.GPS.Altitude", exif.number(EXIF_IFD_GPS, reference) == 1 ? -*metres : *metres);
 }
 
+/// A developed picture may have been cut since the camera wrote its size, but no decoder tells a camera file's.
+void set_dimensions(const ExifTags& exif, PropertyBag& bag)
+{
+    const auto width = exif.number(EXIF_IFD_EXIF, 0xA002), height = exif.number(EXIF_IFD_EXIF, 0xA003);
+    if (width && height && *width >= 1 && *height >= 1)
+        bag.set_dimensions(static_cast<std::uint64_t>(*width), static_cast<std::uint64_t>(*height));
+}
+
 /// The stars of Windows' rating tag on the scale of the property, 1 to 99.
 void set_rating(const ExifTags& exif, PropertyBag& bag)
 {
@@ -143,6 +152,8 @@ bool read_exif(SubjectFile& file, PropertyBag& bag)
     set_coordinate(exif, 4, 'W', u"System.GPS.LongitudeDecimal", bag);
     set_altitude(exif, bag);
     set_rating(exif, bag);
+    if (is_camera_file(file))
+        set_dimensions(exif, bag);
     return true;
 }
 

@@ -1,8 +1,10 @@
-#include "platform/host/properties/media_streams.h"
+#include "platform/host/properties/leading_numbers.h"
+#include "platform/host/properties/media_readers.h"
 #include "platform/host/properties/moments.h"
 #include "platform/host/properties/readers.h"
 #include "platform/host/properties/text_bytes.h"
 
+#include <algorithm>
 #include <cmath>
 #include <exception>
 
@@ -10,62 +12,71 @@ namespace platform {
 
 namespace {
 
-using Stream = MediaStreams::Stream;
-
-enum class Shape { Text, List, Whole, Milliseconds, Moment, FourCc, Variable };
+enum class Shape { Text, List, Whole, Year, Milliseconds, Moment, FourCc, BitRateMode };
 
 struct FieldRow {
-    Stream stream;
-    const char* field;
+    /// As MediaTexts names it.
+    std::string_view field;
     Shape shape;
     std::u16string_view name;
     double factor = 1;
 };
 
-// Where a name stands twice, the first field that the file has wins.
+// Where a name stands twice, the first field that the file has wins. Those in capitals are tags of Matroska, which
+// MediaInfo passes on under their own names.
 constexpr FieldRow fields[] = {
-    {Stream::General, "Title", Shape::Text, u"System.Title"},
-    {Stream::General, "Subject", Shape::Text, u"System.Subject"},
-    {Stream::General, "Performer", Shape::List, u"System.Author"},
-    {Stream::General, "Keywords", Shape::List, u"System.Keywords"},
-    {Stream::General, "Comment", Shape::Text, u"System.Comment"},
-    {Stream::General, "Description", Shape::Text, u"System.Comment"},
-    {Stream::General, "Copyright", Shape::Text, u"System.Copyright"},
-    {Stream::General, "Encoded_Application", Shape::Text, u"System.ApplicationName"},
-    {Stream::Audio, "Language", Shape::Text, u"System.Language"},
-    {Stream::General, "Duration", Shape::Milliseconds, u"System.Media.Duration"},
-    {Stream::General, "Recorded_Date", Shape::Whole, u"System.Media.Year"},
-    {Stream::General, "Publisher", Shape::Text, u"System.Media.Publisher"},
-    {Stream::General, "Label", Shape::Text, u"System.Media.Publisher"},
-    {Stream::General, "EncodedBy", Shape::Text, u"System.Media.EncodedBy"},
-    {Stream::General, "Encoded_Date", Shape::Moment, u"System.Media.DateEncoded"},
-    {Stream::General, "Performer", Shape::List, u"System.Music.Artist"},
-    {Stream::General, "Performer", Shape::Text, u"System.Music.DisplayArtist"},
-    {Stream::General, "Album", Shape::Text, u"System.Music.AlbumTitle"},
-    {Stream::General, "Album/Performer", Shape::Text, u"System.Music.AlbumArtist"},
-    {Stream::General, "Track/Position", Shape::Whole, u"System.Music.TrackNumber"},
-    {Stream::General, "Genre", Shape::List, u"System.Music.Genre"},
-    {Stream::General, "Composer", Shape::List, u"System.Music.Composer"},
-    {Stream::General, "Director", Shape::List, u"System.Video.Director"},
-    {Stream::Audio, "BitRate", Shape::Whole, u"System.Audio.EncodingBitrate"},
-    {Stream::Audio, "SamplingRate", Shape::Whole, u"System.Audio.SampleRate"},
-    {Stream::Audio, "BitDepth", Shape::Whole, u"System.Audio.SampleSize"},
-    {Stream::Audio, "Channel(s)", Shape::Whole, u"System.Audio.ChannelCount"},
-    {Stream::Audio, "Format", Shape::Text, u"System.Audio.Format"},
-    {Stream::Audio, "BitRate_Mode", Shape::Variable, u"System.Audio.IsVariableBitRate"},
-    {Stream::Video, "Width", Shape::Whole, u"System.Video.FrameWidth"},
-    {Stream::Video, "Height", Shape::Whole, u"System.Video.FrameHeight"},
-    {Stream::Video, "FrameRate", Shape::Whole, u"System.Video.FrameRate", 1000},
-    {Stream::Video, "FrameCount", Shape::Whole, u"System.Media.FrameCount"},
-    {Stream::Video, "BitRate", Shape::Whole, u"System.Video.EncodingBitrate"},
-    {Stream::General, "OverallBitRate", Shape::Whole, u"System.Video.TotalBitrate"},
-    {Stream::Video, "Format", Shape::Text, u"System.Video.Compression"},
-    {Stream::Video, "CodecID", Shape::FourCc, u"System.Video.FourCC"},
-    {Stream::Video, "Rotation", Shape::Whole, u"System.Video.Orientation"},
+    {"General;Title", Shape::Text, u"System.Title"},
+    {"General;Subject", Shape::Text, u"System.Subject"},
+    {"General;Performer", Shape::List, u"System.Author"},
+    {"General;ARTIST", Shape::List, u"System.Author"},
+    {"General;Keywords", Shape::List, u"System.Keywords"},
+    {"General;Comment", Shape::Text, u"System.Comment"},
+    {"General;Description", Shape::Text, u"System.Comment"},
+    {"General;Copyright", Shape::Text, u"System.Copyright"},
+    {"General;Encoded_Application", Shape::Text, u"System.ApplicationName"},
+    {"Audio;Language", Shape::Text, u"System.Language"},
+    {"General;Duration", Shape::Milliseconds, u"System.Media.Duration"},
+    {"General;Recorded_Date", Shape::Year, u"System.Media.Year"},
+    {"General;Released_Date", Shape::Year, u"System.Media.Year"},
+    {"General;DATE", Shape::Year, u"System.Media.Year"},
+    {"General;Publisher", Shape::Text, u"System.Media.Publisher"},
+    {"General;Label", Shape::Text, u"System.Media.Publisher"},
+    {"General;EncodedBy", Shape::Text, u"System.Media.EncodedBy"},
+    {"General;Encoded_Date", Shape::Moment, u"System.Media.DateEncoded"},
+    {"General;Performer", Shape::List, u"System.Music.Artist"},
+    {"General;ARTIST", Shape::List, u"System.Music.Artist"},
+    {"General;Performer", Shape::Text, u"System.Music.DisplayArtist"},
+    {"General;ARTIST", Shape::Text, u"System.Music.DisplayArtist"},
+    {"General;Album", Shape::Text, u"System.Music.AlbumTitle"},
+    {"General;ALBUM", Shape::Text, u"System.Music.AlbumTitle"},
+    {"General;Album/Performer", Shape::Text, u"System.Music.AlbumArtist"},
+    {"General;Track/Position", Shape::Whole, u"System.Music.TrackNumber"},
+    {"General;Genre", Shape::List, u"System.Music.Genre"},
+    {"General;GENRE", Shape::List, u"System.Music.Genre"},
+    {"General;Composer", Shape::List, u"System.Music.Composer"},
+    {"General;COMPOSER", Shape::List, u"System.Music.Composer"},
+    {"General;Director", Shape::List, u"System.Video.Director"},
+    {"Audio;BitRate", Shape::Whole, u"System.Audio.EncodingBitrate"},
+    {"Audio;SamplingRate", Shape::Whole, u"System.Audio.SampleRate"},
+    {"Audio;BitDepth", Shape::Whole, u"System.Audio.SampleSize"},
+    {"Audio;Channel(s)", Shape::Whole, u"System.Audio.ChannelCount"},
+    {"Audio;Format", Shape::Text, u"System.Audio.Format"},
+    {"Audio;BitRate_Mode", Shape::BitRateMode, u"System.Audio.IsVariableBitRate"},
+    {"Video;Width", Shape::Whole, u"System.Video.FrameWidth"},
+    {"Video;Height", Shape::Whole, u"System.Video.FrameHeight"},
+    {"Video;FrameRate", Shape::Whole, u"System.Video.FrameRate", 1000},
+    {"Video;FrameCount", Shape::Whole, u"System.Media.FrameCount"},
+    {"Video;BitRate", Shape::Whole, u"System.Video.EncodingBitrate"},
+    {"General;OverallBitRate", Shape::Whole, u"System.Video.TotalBitrate"},
+    {"Video;Format", Shape::Text, u"System.Video.Compression"},
+    {"Video;CodecID", Shape::FourCc, u"System.Video.FourCC"},
+    {"Video;Rotation", Shape::Whole, u"System.Video.Orientation"},
 };
 
-/// The leading number: several values stand as "48000 / 44100", a date as "2019-05-01".
-std::optional<double> leading_number(const std::string& text)
+constexpr std::string_view format_field = "General;Format";
+
+/// The first number: several values stand as "48000 / 44100".
+std::optional<double> first_number(const std::string& text)
 {
     const std::string digits = text.substr(0, text.find_first_not_of("0123456789."));
     return to_double(std::u16string(digits.begin(), digits.end()));
@@ -73,10 +84,22 @@ std::optional<double> leading_number(const std::string& text)
 
 void set_whole(PropertyBag& bag, std::u16string_view name, const std::string& text, double factor)
 {
-    const auto number = leading_number(text);
+    const auto number = first_number(text);
     constexpr double largest = 1e18;
     if (number && *number * factor < largest)
         bag.set_count(name, static_cast<std::uint64_t>(std::llround(*number * factor)));
+}
+
+void set_year(PropertyBag& bag, std::u16string_view name, const std::string& text)
+{
+    if (const auto year = leading_year(decode_bytes(text)))
+        bag.set_count(name, *year);
+}
+
+void set_bit_rate_mode(PropertyBag& bag, std::u16string_view name, const std::string& text)
+{
+    if (text == "VBR" || text == "CBR")
+        bag.set(name, text == "VBR");
 }
 
 void set_four_cc(PropertyBag& bag, std::u16string_view name, const std::string& text)
@@ -108,7 +131,33 @@ void set_field(PropertyBag& bag, const FieldRow& row, const std::string& text)
     case Shape::Milliseconds: set_whole(bag, row.name, text, ticks_per_millisecond); break;
     case Shape::Moment: bag.set_time(row.name, parse_moment(text, AssumedZone::Utc)); break;
     case Shape::FourCc: set_four_cc(bag, row.name, text); break;
-    case Shape::Variable: bag.set(row.name, text == "VBR"); break;
+    case Shape::Year: set_year(bag, row.name, text); break;
+    case Shape::BitRateMode: set_bit_rate_mode(bag, row.name, text); break;
+    }
+}
+
+/// Every field of the table and the format, each once.
+std::string wanted_fields()
+{
+    std::vector<std::string_view> names{format_field};
+    for (const auto& row : fields)
+        if (std::ranges::find(names, row.field) == names.end())
+            names.push_back(row.field);
+    std::string result;
+    for (const auto name : names)
+        result.append(name).push_back('\0');
+    return result;
+}
+
+/// In AVI files the artist is called so by the format's own description, MediaInfo calls him the director.
+void mend_artist(MediaTexts& texts)
+{
+    const auto format = texts.find(format_field);
+    if (format == texts.end() || format->second != "AVI")
+        return;
+    if (auto director = texts.extract("General;Director")) {
+        director.key() = "General;Performer";
+        texts.insert(std::move(director));
     }
 }
 
@@ -116,17 +165,16 @@ void set_field(PropertyBag& bag, const FieldRow& row, const std::string& text)
 
 bool read_media(SubjectFile& file, PropertyBag& bag)
 {
-    // TagLib reads these, and MediaInfo takes minutes over broken comments.
-    if (file.kind() == FileKind::Audio && (file.head().starts_with("fLaC") || file.head().starts_with("OggS"))) {
-        bag.set(u"System.Audio.IsVariableBitRate", true);
-        return false;
-    }
     try {
-        const MediaStreams streams(file);
+        static const std::string wanted = wanted_fields();
+        if (file.descriptor() < 0)
+            return false;
+        MediaTexts texts = media_readers().ask(file.descriptor(), wanted);
+        mend_artist(texts);
         for (const auto& row : fields)
-            if (const std::string text = streams.field(row.stream, row.field); !text.empty())
-                set_field(bag, row, text);
-        return streams.is_known();
+            if (const auto text = texts.find(row.field); text != texts.end())
+                set_field(bag, row, text->second);
+        return !texts.empty();
     } catch (const std::exception&) {
         return false;
     }

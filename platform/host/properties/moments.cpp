@@ -5,6 +5,7 @@
 #include <array>
 #include <charconv>
 #include <chrono>
+#include <cmath>
 #include <ctime>
 
 namespace platform {
@@ -103,8 +104,8 @@ std::optional<std::int64_t> seconds_of(const Fields& fields, bool is_local)
         return {};
     if (is_local)
         return from_local(fields);
-    return sys_days(date).time_since_epoch().count() * std::int64_t{86'400} + fields[3] * 3600 + fields[4] * 60 +
-           fields[5];
+    const auto time_of_day = hours(fields[3]) + minutes(fields[4]) + std::chrono::seconds(fields[5]);
+    return (sys_days(date).time_since_epoch() + time_of_day) / std::chrono::seconds(1);
 }
 
 }
@@ -156,9 +157,10 @@ std::optional<std::int64_t> parse_duration(std::string_view text)
         text.remove_prefix(static_cast<std::size_t>(end - text.data()) + 1);
     }
     constexpr double longest = 1e10;
-    if (!(seconds >= 0 && seconds < longest))
-        return {};
-    return static_cast<std::int64_t>(seconds * static_cast<double>(ticks_per_second) + 0.5);
+    // What is no number doesn't compare.
+    const bool is_honest = seconds >= 0 && seconds < longest;
+    return is_honest ? std::optional<std::int64_t>(std::llround(seconds * static_cast<double>(ticks_per_second)))
+                     : std::nullopt;
 }
 
 }

@@ -39,7 +39,7 @@ std::u16string duration_text(std::int64_t ticks)
         return std::u16string{static_cast<char16_t>(u'0' + number / 10), static_cast<char16_t>(u'0' + number % 10)};
     };
     const std::int64_t hours = seconds / seconds_per_hour;
-    const std::u16string hour_text = hours < 100 ? two_digits(hours) : *to_text(hours);
+    const std::u16string hour_text = hours < 100 ? two_digits(hours) : to_text(hours).value_or(u"");
     return hour_text + u":" + two_digits(seconds / 60 % 60) + u":" + two_digits(seconds % 60);
 }
 

@@ -12,13 +12,14 @@ namespace platform {
 
 namespace {
 
-std::string text_of(QPDFObjectHandle info, const char* key)
+// The handles count references; their operations are declared to change them.
+std::string text_of(QPDFObjectHandle& info, const char* key)
 {
     QPDFObjectHandle value = info.getKey(key);
     return value.isString() ? value.getUTF8Value() : std::string();
 }
 
-void read_info(QPDFObjectHandle info, PropertyBag& bag)
+void read_info(QPDFObjectHandle& info, PropertyBag& bag)
 {
     bag.set_text(u"System.Title", text_of(info, "/Title"));
     bag.set_text(u"System.Subject", text_of(info, "/Subject"));
@@ -31,7 +32,7 @@ void read_info(QPDFObjectHandle info, PropertyBag& bag)
 }
 
 /// What the document says of itself: to count the pages would mean to read them all.
-void read_catalog(QPDFObjectHandle catalog, PropertyBag& bag)
+void read_catalog(QPDFObjectHandle&& catalog, PropertyBag& bag)
 {
     if (!catalog.isDictionary())
         return;

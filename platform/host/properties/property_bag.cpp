@@ -38,9 +38,14 @@ void PropertyBag::set_list(std::u16string_view name, std::u16string_view text)
 void PropertyBag::set_list(std::u16string_view name, const std::vector<std::u16string>& texts)
 {
     std::vector<std::u16string> tidy;
+    std::size_t length = 0;
     for (const auto& text : texts)
-        if (std::u16string one = tidy_text(text); !one.empty())
+        if (std::u16string one = tidy_text(text); !one.empty()) {
+            length += one.size() + 1;
+            if (!tidy.empty() && length > longest_text)
+                break;
             tidy.push_back(std::move(one));
+        }
     if (!tidy.empty())
         set(name, std::move(tidy));
 }
@@ -49,6 +54,13 @@ void PropertyBag::set_time(std::u16string_view name, std::optional<std::int64_t>
 {
     if (ticks)
         set(name, FileTimeValue{*ticks});
+}
+
+void PropertyBag::set_dimensions(std::uint64_t width, std::uint64_t height)
+{
+    set_count(u"System.Image.HorizontalSize", width);
+    set_count(u"System.Image.VerticalSize", height);
+    set_text(u"System.Image.Dimensions", std::to_string(width) + " x " + std::to_string(height));
 }
 
 const PropertyValue* PropertyBag::find(std::u16string_view name) const

@@ -21,9 +21,13 @@ public:
     void set_text(std::u16string_view name, std::string_view bytes);
     /// One string a piece between semicolons, empty ones left out.
     void set_list(std::u16string_view name, std::u16string_view text);
+    /// As long as one text at the most, all strings together.
     void set_list(std::u16string_view name, const std::vector<std::u16string>& texts);
     /// Nothing without a value.
     void set_time(std::u16string_view name, std::optional<std::int64_t> ticks);
+
+    /// Width, height, and both as a text.
+    void set_dimensions(std::uint64_t width, std::uint64_t height);
 
     /// Null when no reader found one.
     const PropertyValue* find(std::u16string_view name) const;

@@ -16,9 +16,10 @@ enum class Display : std::uint8_t {
     Duration, ///< hours, minutes, seconds
     YesNo,
     Pixels,
-    Resolution, ///< dots per inch
-    BitRate,    ///< bits a second
-    SampleRate, ///< Hz
+    Resolution,       ///< dots per inch
+    MetricResolution, ///< dots per centimetre
+    BitRate,          ///< bits a second
+    SampleRate,       ///< Hz
     Bits,
     Channels,
     FrameRate, ///< frames in 1000 seconds
@@ -47,9 +48,9 @@ enum class Display : std::uint8_t {
 struct PropertyRow {
     std::u16string_view name;
     std::u16string_view display_name;
-    PropertyType type;
-    /// Set of `Reader`.
+    /// Set of `Reader`: those that can find the property.
     unsigned readers;
+    PropertyType type;
     Display display;
 };
 

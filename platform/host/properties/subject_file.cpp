@@ -11,15 +11,14 @@ namespace platform {
 
 namespace {
 
-/// What one library may read of one file, and how long it may take. A call costs something too, so that a library
-/// that runs in circles over a few bytes comes to its end.
-constexpr std::uint64_t allowed_bytes = 64 << 20, cost_of_call = 256;
 constexpr std::chrono::seconds allowed_time{2};
 constexpr std::size_t head_size = 4096;
 
 }
 
-SubjectFile::SubjectFile(std::u16string_view path) : path_(path), attributes_(file_attributes(path_)) {}
+SubjectFile::SubjectFile(std::u16string_view path)
+    : path_(path), attributes_(file_attributes(path_)), allowance_(allowed_time)
+{}
 
 std::u16string_view SubjectFile::name() const
 {
@@ -37,26 +36,35 @@ std::u16string_view SubjectFile::extension() const
 
 FileKind SubjectFile::kind()
 {
-    if (!attributes_ || attributes_->is_folder)
-        return FileKind::Other;
     if (!kind_) {
         const auto by_extension = kind_by_extension(extension());
-        kind_ = by_extension ? *by_extension : kind_by_content(head());
+        if (host_type() != S_IFREG)
+            kind_ = FileKind::Other;
+        else
+            kind_ = by_extension ? *by_extension : kind_by_content(head());
     }
     return *kind_;
+}
+
+unsigned SubjectFile::host_type()
+{
+    if (!host_type_) {
+        const HostLocation location(path_);
+        struct stat info;
+        host_type_ = fstatat(location.folder(), location.name(), &info, 0) == 0 ? info.st_mode & S_IFMT : 0;
+    }
+    return *host_type_;
 }
 
 void SubjectFile::open()
 {
     is_opened_ = true;
-    const HostLocation location(path_);
-    const auto is_regular = [](const struct stat& info) { return S_ISREG(info.st_mode); };
-    struct stat info;
-    if (fstatat(location.folder(), location.name(), &info, 0) != 0 || !is_regular(info))
+    if (host_type() != S_IFREG)
         return;
-    // The file can become a fifo between the two calls: O_NONBLOCK keeps the open from waiting for a writer.
-    Descriptor descriptor = location.open(O_RDONLY | O_NOCTTY | O_NONBLOCK);
-    if (!descriptor || fstat(descriptor.get(), &info) != 0 || !is_regular(info))
+    // The file can have become a fifo since: O_NONBLOCK keeps the open from waiting for a writer.
+    Descriptor descriptor = HostLocation(path_).open(O_RDONLY | O_NOCTTY | O_NONBLOCK);
+    struct stat info;
+    if (!descriptor || fstat(descriptor.get(), &info) != 0 || !S_ISREG(info.st_mode))
         return;
     descriptor_ = std::move(descriptor);
     size_ = static_cast<std::uint64_t>(info.st_size);
@@ -83,26 +91,23 @@ const std::string& SubjectFile::head()
     return *head_;
 }
 
-void SubjectFile::start_allowance()
+void SubjectFile::close()
 {
-    bytes_left_ = allowed_bytes;
-    deadline_ = std::chrono::steady_clock::now() + allowed_time;
+    descriptor_ = Descriptor();
+    is_opened_ = false;
 }
 
-bool SubjectFile::has_allowance() const
+void SubjectFile::start_allowance()
 {
-    return bytes_left_ > cost_of_call && std::chrono::steady_clock::now() < deadline_;
+    allowance_ = ReadAllowance(allowed_time);
 }
 
 std::size_t SubjectFile::read_at(std::uint64_t offset, char* out, std::size_t count)
 {
-    if (offset >= size() || !has_allowance())
+    if (offset >= size())
         return 0;
-    const auto wanted = std::min<std::uint64_t>({count, size_ - offset, bytes_left_ - cost_of_call});
-    const ssize_t read = pread(descriptor(), out, static_cast<std::size_t>(wanted), static_cast<off_t>(offset));
-    const auto result = static_cast<std::size_t>(std::max<ssize_t>(read, 0));
-    bytes_left_ -= result + cost_of_call;
-    return result;
+    const auto wanted = static_cast<std::size_t>(std::min<std::uint64_t>(count, size_ - offset));
+    return allowance_.read_at(descriptor(), offset, out, wanted);
 }
 
 std::string SubjectFile::read_text(std::uint64_t offset, std::size_t count)

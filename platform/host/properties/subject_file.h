@@ -2,8 +2,8 @@
 
 #include "platform/files.h"
 #include "platform/host/descriptor.h"
+#include "platform/host/properties/read_allowance.h"
 
-#include <chrono>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -16,6 +16,9 @@ enum class FileKind { Other, Image, Audio, Video, Pdf, Office };
 
 /// `extension` with its dot, in any case. Empty for one that tells nothing.
 std::optional<FileKind> kind_by_extension(std::u16string_view extension);
+
+/// True for one that films have and other files as well, so that only the content tells.
+bool is_ambiguous(std::u16string_view extension);
 
 /// By the first bytes of the content.
 FileKind kind_by_content(std::string_view head);
@@ -38,7 +41,11 @@ public:
     /// Empty when the path leads nowhere.
     const std::optional<FileAttributes>& attributes() const { return attributes_; }
 
+    /// `Other` for what is no regular file.
     FileKind kind();
+
+    /// What the path leads to, links followed: the type bits of st_mode. 0 when it leads nowhere.
+    unsigned host_type();
 
     /// -1 when the path leads to no regular file that may be read.
     int descriptor();
@@ -53,7 +60,11 @@ public:
     std::size_t read_at(std::uint64_t offset, char* out, std::size_t count);
     /// The bytes from `offset` on, `count` at the most.
     std::string read_text(std::uint64_t offset, std::size_t count);
-    bool has_allowance() const;
+
+    bool has_allowance() const { return allowance_.is_left(); }
+
+    /// Gives the descriptor back; the next look at the content opens the file again.
+    void close();
 
 private:
     std::u16string path_;
@@ -63,8 +74,8 @@ private:
     std::uint64_t size_ = 0;
     std::optional<std::string> head_;
     std::optional<FileKind> kind_;
-    std::uint64_t bytes_left_ = 0;
-    std::chrono::steady_clock::time_point deadline_;
+    std::optional<unsigned> host_type_;
+    ReadAllowance allowance_;
 
     void open();
 };

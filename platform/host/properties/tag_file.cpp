@@ -61,6 +61,33 @@ const TypeRow types[] = {
     {MPEG::File::isSupported, ".mp3 .mp2 .mpga ", with_frames<MPEG::File>},
 };
 
+/// The type that the extension names, when the content agrees, else the first whose content it is.
+const TypeRow* type_of(TagStream& stream, FileKind kind)
+{
+    const std::string extension = std::string(stream.name()).substr(1) + " ";
+    for (const auto& type : types)
+        if (extension.size() > 1 && type.extensions.find(extension) != std::string_view::npos &&
+            type.matches(&stream))
+            return &type;
+    for (const auto& type : types) {
+        // A film has what looks like the beginning of an MP3 file somewhere.
+        const bool is_unlikely = kind == FileKind::Video && type.matches == MPEG::File::isSupported;
+        if (!is_unlikely && type.matches(&stream))
+            return &type;
+    }
+    return nullptr;
+}
+
+/// TagLib takes the numbers of the last stream for those of the sound, a film's pictures included.
+bool has_sound_alone(SubjectFile& file)
+{
+    constexpr std::size_t most_header = 256 << 10;
+    constexpr std::string_view sound("\x40\x9E\x69\xF8\x4D\x5B\xCF\x11\xA8\xFD\x00\x80\x5F\x5C\x44\x2B", 16);
+    constexpr std::string_view pictures("\xC0\xEF\x19\xBC\x4D\x5B\xCF\x11\xA8\xFD\x00\x80\x5F\x5C\x44\x2B", 16);
+    const std::string header = file.read_text(0, most_header);
+    return header.find(sound) != header.npos && header.find(pictures) == header.npos;
+}
+
 }
 
 TagFile::TagFile(SubjectFile& file)
@@ -68,20 +95,14 @@ TagFile::TagFile(SubjectFile& file)
     if (file.descriptor() < 0)
         return;
     stream_ = std::make_unique<TagStream>(file);
-    const std::string extension = std::string(stream_->name()).substr(1) + " ";
-    const TypeRow* chosen = nullptr;
-    for (const auto& type : types)
-        if (extension.size() > 1 && type.extensions.find(extension) != std::string_view::npos &&
-            type.matches(stream_.get()))
-            chosen = &type;
-    for (const auto& type : types)
-        if (!chosen && type.matches(stream_.get()))
-            chosen = &type;
-    if (!chosen)
+    const TypeRow* const type = type_of(*stream_, file.kind());
+    if (!type)
         return;
-    file_ = chosen->open(*stream_);
+    file_ = type->open(*stream_);
     if (!file_->isValid())
         file_.reset();
+    if (type->matches == ASF::File::isSupported)
+        knows_sound_ = has_sound_alone(file);
 }
 
 namespace {
@@ -130,7 +151,7 @@ std::string_view format_name(const File& file)
 int sample_size(const AudioProperties& properties)
 {
     return bits_of<FLAC::Properties, RIFF::WAV::Properties, RIFF::AIFF::Properties, APE::Properties,
-                   WavPack::Properties, TrueAudio::Properties, MP4::Properties>(properties);
+                   WavPack::Properties, TrueAudio::Properties, MP4::Properties, ASF::Properties>(properties);
 }
 
 }

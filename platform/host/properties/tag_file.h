@@ -17,9 +17,13 @@ public:
     /// Null when TagLib doesn't know the format.
     TagLib::File* get() const { return file_.get(); }
 
+    /// False for a file whose stream TagLib takes for sound whatever it is.
+    bool knows_sound() const { return knows_sound_; }
+
 private:
     std::unique_ptr<TagStream> stream_;
     std::unique_ptr<TagLib::File> file_;
+    bool knows_sound_ = true;
 };
 
 /// "MP3", "FLAC" ...; empty for a format without a name here.

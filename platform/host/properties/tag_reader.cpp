@@ -1,3 +1,4 @@
+#include "platform/host/properties/leading_numbers.h"
 #include "platform/host/properties/readers.h"
 #include "platform/host/properties/tag_file.h"
 #include "platform/host/properties/text_bytes.h"
@@ -14,7 +15,7 @@ namespace platform {
 
 namespace {
 
-enum class Shape { Text, List, LeadingNumber };
+enum class Shape { Text, List, Number, Year };
 
 struct TagRow {
     const char* key;
@@ -34,7 +35,7 @@ constexpr TagRow tags[] = {
     {"ENCODING", Shape::Text, u"System.ApplicationName"},
     {"ENCODER", Shape::Text, u"System.ApplicationName"},
     {"LANGUAGE", Shape::Text, u"System.Language"},
-    {"DATE", Shape::LeadingNumber, u"System.Media.Year"},
+    {"DATE", Shape::Year, u"System.Media.Year"},
     {"SUBTITLE", Shape::Text, u"System.Media.SubTitle"},
     {"LABEL", Shape::Text, u"System.Media.Publisher"},
     {"PUBLISHER", Shape::Text, u"System.Media.Publisher"},
@@ -44,8 +45,8 @@ constexpr TagRow tags[] = {
     {"ALBUMARTIST", Shape::Text, u"System.Music.DisplayArtist"},
     {"ALBUM", Shape::Text, u"System.Music.AlbumTitle"},
     {"ALBUMARTIST", Shape::Text, u"System.Music.AlbumArtist"},
-    {"TRACKNUMBER", Shape::LeadingNumber, u"System.Music.TrackNumber"},
-    {"DISCNUMBER", Shape::LeadingNumber, u"System.Music.DiscNumber"},
+    {"TRACKNUMBER", Shape::Number, u"System.Music.TrackNumber"},
+    {"DISCNUMBER", Shape::Number, u"System.Music.DiscNumber"},
     {"DISCNUMBER", Shape::Text, u"System.Music.PartOfSet"},
     {"GENRE", Shape::List, u"System.Music.Genre"},
     {"COMPOSER", Shape::List, u"System.Music.Composer"},
@@ -61,13 +62,10 @@ std::u16string text_of(const TagLib::String& text)
     return tidy_text(decode_bytes(text.to8Bit(true)));
 }
 
-/// The number before what is none: of "3/12" the 3, of "2019-05-01" the year.
-void set_leading_number(PropertyBag& bag, std::u16string_view name, std::u16string_view text)
+void set_found(PropertyBag& bag, std::u16string_view name, std::optional<std::uint64_t> number)
 {
-    constexpr std::size_t most_digits = 9;
-    const std::size_t digits = std::min(text.find_first_not_of(u"0123456789"), text.size());
-    if (digits > 0 && digits <= most_digits)
-        bag.set_count(name, static_cast<std::uint64_t>(*to_int64(std::u16string(text.substr(0, digits)))));
+    if (number)
+        bag.set_count(name, *number);
 }
 
 void set_tag(PropertyBag& bag, const TagRow& row, const TagLib::StringList& values)
@@ -79,22 +77,32 @@ void set_tag(PropertyBag& bag, const TagRow& row, const TagLib::StringList& valu
     switch (row.shape) {
     case Shape::Text: bag.set_text(row.name, joined); break;
     case Shape::List: bag.set_list(row.name, texts); break;
-    case Shape::LeadingNumber: set_leading_number(bag, row.name, joined); break;
+    case Shape::Number: set_found(bag, row.name, leading_number(joined)); break;
+    case Shape::Year: set_found(bag, row.name, leading_year(joined)); break;
     }
 }
 
-void set_sound(PropertyBag& bag, const TagLib::AudioProperties& sound)
+void set_positive(PropertyBag& bag, std::u16string_view name, int value, std::uint64_t factor)
 {
+    if (value > 0)
+        bag.set_count(name, static_cast<std::uint64_t>(value) * factor);
+}
+
+/// False when the file has no sound that TagLib knows.
+bool set_sound(PropertyBag& bag, const TagFile& opened)
+{
+    const TagLib::AudioProperties* const sound = opened.get()->audioProperties();
     constexpr std::uint64_t ticks_per_millisecond = 10'000;
-    const auto set_positive = [&bag](std::u16string_view name, int value, std::uint64_t factor) {
-        if (value > 0)
-            bag.set_count(name, static_cast<std::uint64_t>(value) * factor);
-    };
-    set_positive(u"System.Media.Duration", sound.lengthInMilliseconds(), ticks_per_millisecond);
-    set_positive(u"System.Audio.EncodingBitrate", sound.bitrate(), 1000);
-    set_positive(u"System.Audio.SampleRate", sound.sampleRate(), 1);
-    set_positive(u"System.Audio.ChannelCount", sound.channels(), 1);
-    set_positive(u"System.Audio.SampleSize", sample_size(sound), 1);
+    if (sound)
+        set_positive(bag, u"System.Media.Duration", sound->lengthInMilliseconds(), ticks_per_millisecond);
+    if (!sound || sound->sampleRate() <= 0 || !opened.knows_sound())
+        return false;
+    set_positive(bag, u"System.Audio.EncodingBitrate", sound->bitrate(), 1000);
+    set_positive(bag, u"System.Audio.SampleRate", sound->sampleRate(), 1);
+    set_positive(bag, u"System.Audio.ChannelCount", sound->channels(), 1);
+    set_positive(bag, u"System.Audio.SampleSize", sample_size(*sound), 1);
+    bag.set_text(u"System.Audio.Format", format_name(*opened.get()));
+    return true;
 }
 
 /// The popularity of ID3 in 255ths, on the scale of the property by its documented stars.
@@ -115,20 +123,11 @@ void set_rating(PropertyBag& bag, TagLib::File& file)
                                                            : 99u);
 }
 
-bool read_opened(TagLib::File& file, PropertyBag& bag)
+void set_tags(PropertyBag& bag, const TagLib::PropertyMap& found)
 {
-    const TagLib::PropertyMap found = file.properties();
     for (const auto& row : tags)
         if (const auto entry = found.find(row.key); entry != found.end())
             set_tag(bag, row, entry->second);
-    const auto* const sound = file.audioProperties();
-    if (sound)
-        set_sound(bag, *sound);
-    const bool has_sound = sound && sound->sampleRate() > 0;
-    if (has_sound)
-        bag.set_text(u"System.Audio.Format", format_name(file));
-    set_rating(bag, file);
-    return has_sound || !found.isEmpty();
 }
 
 }
@@ -137,7 +136,12 @@ bool read_tags(SubjectFile& file, PropertyBag& bag)
 {
     try {
         const TagFile opened(file);
-        return opened.get() && read_opened(*opened.get(), bag);
+        if (!opened.get())
+            return false;
+        set_tags(bag, opened.get()->properties());
+        set_rating(bag, *opened.get());
+        // Of a film TagLib sees the tags and perhaps the sound, so MediaInfo is asked for what is missing.
+        return set_sound(bag, opened) && file.kind() == FileKind::Audio;
     } catch (const std::exception&) {
         return false;
     }

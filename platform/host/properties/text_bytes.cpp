@@ -6,8 +6,6 @@ namespace platform {
 
 namespace {
 
-constexpr std::size_t longest_text = 32'767;
-
 constexpr bool is_blank(char16_t unit)
 {
     return unit <= u' ' || unit == u'\u00A0' || unit == u'\uFEFF';

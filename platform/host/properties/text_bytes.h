@@ -12,8 +12,10 @@ std::u16string decode_bytes(std::string_view bytes);
 /// Two bytes a unit, the low one first.
 std::u16string decode_ucs2(std::string_view bytes);
 
-/// Cut at the first U+0000, without blanks at its ends, lone surrogates as U+FFFD, 32,767 units at the most: a
-/// property is a line or a paragraph, and what is longer was made to fill memory.
+/// A property is a line or a paragraph, and what is longer was made to fill memory.
+inline constexpr std::size_t longest_text = 32'767;
+
+/// Cut at the first U+0000 and at the longest text's length, without blanks at its ends, lone surrogates as U+FFFD.
 std::u16string tidy_text(std::u16string_view text);
 
 }

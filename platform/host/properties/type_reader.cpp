@@ -3,6 +3,8 @@
 
 #include <QMimeDatabase>
 
+#include <sys/stat.h>
+
 #include <array>
 
 namespace platform {
@@ -15,11 +17,12 @@ struct KindRow {
 };
 
 // The kinds are those of the documented Kind names.
-constexpr std::array<KindRow, 11> kind_rows{{{u"image/", u"picture"},
+constexpr std::array<KindRow, 12> kind_rows{{{u"image/", u"picture"},
                                              {u"audio/", u"music"},
                                              {u"video/", u"video"},
                                              {u"text/", u"document"},
                                              {u"inode/directory", u"folder"},
+                                             {u"inode/symlink", u"link"},
                                              {u"application/pdf", u"document"},
                                              {u"application/vnd.oasis.opendocument.", u"document"},
                                              {u"application/vnd.openxmlformats-officedocument.", u"document"},
@@ -27,18 +30,31 @@ constexpr std::array<KindRow, 11> kind_rows{{{u"image/", u"picture"},
                                              {u"application/x-executable", u"program"},
                                              {u"message/rfc822", u"email"}}};
 
+/// The name of the type of what is no regular file; null for one that is.
+const char* type_without_content(unsigned host_type)
+{
+    switch (host_type) {
+    case S_IFREG: return nullptr;
+    case S_IFDIR: return "inode/directory";
+    case S_IFIFO: return "inode/fifo";
+    case S_IFSOCK: return "inode/socket";
+    case S_IFCHR: return "inode/chardevice";
+    case S_IFBLK: return "inode/blockdevice";
+    default: return "inode/symlink"; // that leads nowhere
+    }
+}
+
 QMimeType type_of(SubjectFile& file)
 {
     static const QMimeDatabase database;
-    if (file.attributes()->is_folder)
-        return database.mimeTypeForName(QStringLiteral("inode/directory"));
-    if (file.attributes()->is_link && file.descriptor() < 0)
-        return database.mimeTypeForName(QStringLiteral("inode/symlink"));
+    if (const char* const name = type_without_content(file.host_type()))
+        return database.mimeTypeForName(QString::fromLatin1(name));
     std::u16string name(file.name());
     make_presentable(name);
-    const std::string& head = file.head();
-    return database.mimeTypeForFileNameAndData(QString::fromStdU16String(name),
-                                               QByteArray(head.data(), static_cast<qsizetype>(head.size())));
+    const QByteArray head(file.head().data(), static_cast<qsizetype>(file.head().size()));
+    if (is_ambiguous(file.extension()) && !head.isEmpty())
+        return database.mimeTypeForData(head);
+    return database.mimeTypeForFileNameAndData(QString::fromStdU16String(name), head);
 }
 
 void set_kind(PropertyBag& bag, const std::u16string& mime_name)

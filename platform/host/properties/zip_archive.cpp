@@ -12,7 +12,8 @@ namespace {
 
 using namespace std::string_view_literals;
 
-constexpr std::size_t largest_content = 4 << 20;
+/// Far more than an honest document says of itself; to parse what is longer takes noticeable time.
+constexpr std::size_t most_content = 512 << 10;
 
 /// Whether every list of contents that could be meant is small: the list is read whole when the archive is opened.
 bool has_small_directory(SubjectFile& file)
@@ -57,13 +58,12 @@ ZipArchive::ZipArchive(SubjectFile& file)
 std::string ZipArchive::content(const char* name) const
 {
     zip_stat_t info;
-    if (!archive_ || zip_stat(archive_.get(), name, 0, &info) != 0 || (info.valid & ZIP_STAT_SIZE) == 0 ||
-        info.size > largest_content)
+    if (!archive_ || zip_stat(archive_.get(), name, 0, &info) != 0 || (info.valid & ZIP_STAT_SIZE) == 0)
         return {};
     const std::unique_ptr<zip_file_t, decltype(&zip_fclose)> file(zip_fopen(archive_.get(), name, 0), zip_fclose);
     if (!file)
         return {};
-    std::string result(static_cast<std::size_t>(info.size), '\0');
+    std::string result(static_cast<std::size_t>(std::min<std::uint64_t>(info.size, most_content)), '\0');
     const zip_int64_t count = zip_fread(file.get(), result.data(), result.size());
     result.resize(static_cast<std::size_t>(std::max<zip_int64_t>(count, 0)));
     return result;

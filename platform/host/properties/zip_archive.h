@@ -16,7 +16,8 @@ public:
 
     bool is_open() const { return archive_ != nullptr; }
 
-    /// Content of a file of the archive. Empty when it isn't there, is encrypted, broken or larger than 4 MiB.
+    /// Content of a file of the archive, its first 512 KiB at the most. Empty when it isn't there, is encrypted or
+    /// broken.
     std::string content(const char* name) const;
 
 private:

@@ -1,4 +1,4 @@
-#include "platform/host/properties/readers.h"
+#include "platform/host/properties/reader_table.h"
 
 namespace platform {
 

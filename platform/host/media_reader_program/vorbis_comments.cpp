@@ -1,4 +1,4 @@
-#include "platform/host/properties/vorbis_comments.h"
+#include "platform/host/media_reader_program/vorbis_comments.h"
 
 #include <cstdint>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/host/properties/subject_file.h"
-
 #include <memory>
+#include <string>
+#include <string_view>
 
 namespace platform {
 
@@ -11,9 +11,8 @@ namespace platform {
 class MediaStreams
 {
 public:
-    enum class Stream { General, Video, Audio };
-
-    explicit MediaStreams(SubjectFile& file);
+    /// `file` is open for reading.
+    explicit MediaStreams(int file);
     ~MediaStreams();
     MediaStreams(const MediaStreams&) = delete;
     MediaStreams& operator=(const MediaStreams&) = delete;
@@ -21,8 +20,9 @@ public:
     /// True for a format with sound or pictures.
     bool is_known() const;
 
-    /// UTF-8, of the first stream of its kind; empty when the file doesn't tell.
-    std::string field(Stream stream, const char* name) const;
+    /// UTF-8, cut at U+0000 and at what no property is longer than, of the first stream of its kind; `name` as
+    /// "Video;Width". Empty when the file doesn't tell.
+    std::string field(std::string_view name) const;
 
 private:
     struct Handle;

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/host/properties/subject_file.h"
+
+namespace platform {
+
+struct ImageHeader {
+    /// In pixels.
+    std::uint64_t width = 0, height = 0;
+    /// Bits of a pixel in the file; 0 when the header doesn't tell.
+    std::uint64_t bit_depth = 0;
+};
+
+/// True for PNG, GIF, WebP and TIFF.
+bool has_plain_header(SubjectFile& file);
+
+/// What the header of such a file says; empty for a broken one. Read here since the usual decoders of PNG and TIFF
+/// tell errors on the standard error output past all logging, and that of WebP is seldom installed.
+std::optional<ImageHeader> image_header(SubjectFile& file);
+
+}

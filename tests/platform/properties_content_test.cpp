@@ -1,0 +1,167 @@
+#include "platform/paths.h"
+#include "platform/properties.h"
+#include "support/temp_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <sys/inotify.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <filesystem>
+#include <thread>
+
+using namespace std::string_literals;
+using platform::FileProperties;
+
+namespace {
+
+const std::string song = SAMPLES_FOLDER "/Sounds/Morning Bell.mp3", other_song = SAMPLES_FOLDER "/Sounds/bell.wav";
+
+/// Each time by a reader of its own, as one part of a text after another does.
+std::string shown(const std::u16string& path, std::u16string_view name)
+{
+    const auto text = FileProperties(path).display_text(u"System." + std::u16string(name));
+    std::string bytes = text ? "" : "-";
+    platform::append_host_name(bytes, text.value_or(u""));
+    return bytes;
+}
+
+class OpenCounter
+{
+public:
+    explicit OpenCounter(const std::string& host_path)
+        : queue_(inotify_init1(IN_NONBLOCK)),
+          watch_(inotify_add_watch(queue_, host_path.c_str(), IN_OPEN | IN_CLOSE_NOWRITE))
+    {}
+
+    ~OpenCounter() { close(queue_); }
+
+    OpenCounter(const OpenCounter&) = delete;
+    OpenCounter& operator=(const OpenCounter&) = delete;
+
+    bool works() const { return watch_ >= 0; }
+
+    /// Opens since the last call, as the file is closed between them: equal events in a row are one.
+    int count()
+    {
+        int opens = 0;
+        inotify_event event;
+        while (read(queue_, &event, sizeof event) == sizeof event)
+            opens += (event.mask & IN_OPEN) != 0;
+        return opens;
+    }
+
+private:
+    int queue_, watch_;
+};
+
+TEST(PropertyContent, IsReadOnceForSeveralProperties)
+{
+    constexpr bool has_reader = WITH_TAGLIB || WITH_MEDIAINFO;
+    const auto path = platform::from_host_path(song);
+    OpenCounter opens(song);
+    ASSERT_TRUE(opens.works());
+    std::string counts;
+    for (const auto* const name :
+         {u"Title", u"Music.Artist", u"Music.TrackNumber", u"Media.Year", u"Size", u"Title"}) {
+        shown(path, name);
+        counts += std::to_string(opens.count());
+    }
+    EXPECT_EQ(counts, has_reader ? "100000" : "000000");
+}
+
+TEST(PropertyContent, IsReadAnewWhenThePathLeadsElsewhere)
+{
+    if (!(WITH_TAGLIB && WITH_MEDIAINFO))
+        GTEST_SKIP() << "no tags without the libraries";
+    const TempFolder folder;
+    folder.make_folder("a");
+    folder.make_folder("b");
+    std::filesystem::copy_file(song, folder.host("a/bell"));
+    std::filesystem::copy_file(other_song, folder.host("b/bell"));
+    const auto path = folder.path("a/bell");
+    // What was read of a file that changed a moment ago is not kept, and to rename a folder leaves its files' times.
+    std::this_thread::sleep_for(std::chrono::milliseconds(2100));
+    const std::string first = shown(path, u"Title") + ", " + shown(path, u"Audio.SampleRate");
+    std::filesystem::rename(folder.host("a"), folder.host("c"));
+    std::filesystem::rename(folder.host("b"), folder.host("a"));
+    EXPECT_EQ(first + "; " + shown(path, u"Title") + ", " + shown(path, u"Audio.SampleRate"),
+              "Morning Bell, 44.1 kHz; -, 8 kHz");
+}
+
+std::string number(std::uint64_t value, int bytes, bool is_big = false)
+{
+    std::string result;
+    for (int i = 0; i < bytes; ++i)
+        result.insert(is_big ? result.begin() : result.end(), static_cast<char>(value >> (8 * i)));
+    return result;
+}
+
+/// An entry of one short, long or fraction; the value of a fraction is its place.
+std::string entry(unsigned tag, unsigned type, unsigned value)
+{
+    return number(tag, 2) + number(type, 2) + number(1, 4) + number(value, 4);
+}
+
+/// 40 x 30 pixels, 118 dots per centimetre; the camera says 4032 x 3024.
+std::string tiff(const std::string& magic)
+{
+    constexpr unsigned entries = 11, exif = 8 + 2 + entries * 12 + 4, fraction = exif + 2 + 2 * 12 + 4;
+    return "II" + magic + number(8, 4) + number(entries, 2) + entry(0x100, 3, 40) + entry(0x101, 3, 30) +
+           entry(0x102, 3, 8) + entry(0x103, 3, 1) + entry(0x106, 3, 1) + entry(0x111, 4, 0) +
+           entry(0x11A, 5, fraction) + entry(0x116, 3, 30) + entry(0x117, 4, 1) + entry(0x128, 3, 3) +
+           entry(0x8769, 4, exif) + number(0, 4) + number(2, 2) + entry(0xA002, 4, 4032) + entry(0xA003, 4, 3024) +
+           number(0, 4) + number(118, 4) + number(1, 4);
+}
+
+std::string box(const std::string& type, const std::string& content)
+{
+    return number(content.size() + 8, 4, true) + type + content;
+}
+
+std::string heif()
+{
+    const std::string data = number(0, 4) + tiff("*\0"s), brand = box("ftyp", "heic"s + number(0, 4));
+    const auto meta = [&](std::size_t at) {
+        const std::string item = number(7, 2, true);
+        const std::string infe = box("infe", "\2\0\0\0"s + item + "\0\0Exif\0"s);
+        const std::string place = number(at, 4, true) + number(data.size(), 4, true);
+        return box("meta", "\0\0\0\0"s + box("hdlr", std::string(24, '\0')) +
+                               box("iinf", number(0, 4) + number(1, 2, true) + infe) +
+                               box("iloc", number(0, 4) + "\x44\0\0\1"s + item + "\0\0\0\1"s + place));
+    };
+    return brand + meta(brand.size() + meta(0).size() + 8) + box("mdat", data);
+}
+
+TEST(PropertyContent, OfPictures)
+{
+    struct Row {
+        const char* name;
+        std::string content;
+        std::u16string_view property;
+        int is_built;
+        const char* expected;
+    };
+
+    const std::string gif = "GIF89a\5\0\3\0"s,
+                      webp = "RIFF\x1A\0\0\0WEBPVP8L\x0D\0\0\0\x2F\4\x80\0\x10\7\x10\x11\x11"s + "\x88\x88\xFE\7\0"s;
+    const Row rows[] = {
+        {"few.gif", gif + "\xA1\0\0"s + std::string(12, '\0') + ";", u"Image.BitDepth", WITH_QTGUI, "2"},
+        {"few.gif", gif + "\xA1\0\0"s + std::string(12, '\0') + ";", u"Image.Dimensions", WITH_QTGUI, "5 x 3"},
+        {"many.gif", gif + "\0\0\0;"s, u"Image.BitDepth", WITH_QTGUI, "8"},
+        {"small.webp", webp, u"Image.Dimensions", WITH_QTGUI, "5 x 3"},
+        {"scan.tif", tiff("*\0"s), u"Image.Dimensions", WITH_QTGUI, "40 x 30"},
+        {"scan.tif", tiff("*\0"s), u"Image.HorizontalResolution", WITH_EXIF, "118 dots/cm"},
+        {"raw.nef", tiff("*\0"s), u"Image.Dimensions", WITH_EXIF, "4032 x 3024"},
+        {"raw.rw2", tiff("U\0"s), u"Image.Dimensions", WITH_EXIF, "4032 x 3024"},
+        {"phone.heic", heif(), u"Image.Dimensions", WITH_EXIF, "4032 x 3024"},
+        {"cut.heic", heif().substr(0, 60), u"Image.Dimensions", WITH_EXIF, "-"},
+    };
+    const TempFolder folder;
+    for (const auto& row : rows)
+        EXPECT_EQ(shown(folder.write(row.name, row.content), row.property), row.is_built ? row.expected : "-")
+            << row.name;
+}
+
+}
