@@ -54,7 +54,7 @@ QLabel* badge(bool equal)
 void add_row(QGridLayout& grid, const QString& name, std::u16string_view checksum)
 {
     const int row = grid.rowCount();
-    grid.addWidget(new QLabel(name), row, 0, Qt::AlignTop);
+    grid.addWidget(new QLabel(name), row, 0);
     grid.addWidget(checksum_label(checksum), row, 1);
 }
 
