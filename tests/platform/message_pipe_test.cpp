@@ -1,17 +1,15 @@
 #include "platform/message_pipe.h"
+#include "support/raw_client.h"
 #include "support/scoped_variable.h"
 #include "support/temp_folder.h"
 
 #include <gtest/gtest.h>
 
 #include <fcntl.h>
-#include <sys/socket.h>
 #include <sys/stat.h>
-#include <sys/un.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <cstring>
 #include <filesystem>
 #include <future>
 #include <initializer_list>
@@ -67,15 +65,7 @@ protected:
         return read;
     }
 
-    /// A client's socket, connected by its plain path.
-    int raw_client()
-    {
-        sockaddr_un address{};
-        address.sun_family = AF_UNIX;
-        std::strncpy(address.sun_path, folder_.host("pipe").c_str(), sizeof address.sun_path - 1);
-        const int client = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-        return connect(client, reinterpret_cast<sockaddr*>(&address), sizeof address) == 0 ? client : -1;
-    }
+    int connect_client() const { return raw_client(folder_.host("pipe")); }
 
     TempFolder folder_;
     ScopedVariable session_{"XDG_RUNTIME_DIR", folder_.host()};
@@ -101,7 +91,7 @@ TEST_F(MessagePipeTest, ReadsUpToTheEndOfEachMessage)
 TEST_F(MessagePipeTest, MessageInDripsIsOnePiece)
 {
     const auto pipe = create();
-    const int client = raw_client();
+    const int client = connect_client();
     ASSERT_FALSE(pipe->connect());
     auto text = std::async(std::launch::async, [&] { return pieces(*pipe, 4); });
     for (int i = 0; i < 6; ++i) {
@@ -116,7 +106,7 @@ TEST_F(MessagePipeTest, SilentClientsAndOwnersTimeOut)
 {
     const auto pipe = create(50ms);
     for (const std::string_view start : {"", "ab", "abcd"}) {
-        const int client = raw_client();
+        const int client = connect_client();
         ASSERT_EQ(write(client, start.data(), start.size()), static_cast<ssize_t>(start.size()));
         ASSERT_FALSE(pipe->connect());
         EXPECT_EQ(pieces(*pipe, 4), std::to_string(start.size()) + " Connection timed out");
@@ -155,7 +145,7 @@ TEST_F(MessagePipeTest, NameHasOneOwner)
     EXPECT_EQ(send_message("pipe", "x", patience), std::errc::connection_refused);
     const auto second = create();
     ASSERT_TRUE(second) << error_;
-    const int client = raw_client();
+    const int client = connect_client();
     EXPECT_FALSE(second->connect());
     close(client);
 
@@ -169,7 +159,7 @@ TEST_F(MessagePipeTest, NameHasOneOwner)
 TEST_F(MessagePipeTest, StartedProgramsInheritNothing)
 {
     const auto pipe = create();
-    const int client = raw_client();
+    const int client = connect_client();
     ASSERT_FALSE(pipe->connect());
     const auto start = platform::try_lock_start("pipe");
     int sockets = 0;
@@ -233,7 +223,7 @@ TEST_F(MessagePipeTest, OtherUsersAreRefused)
     if (child == 0) {
         if (setuid(65534) != 0)
             _exit(2);
-        const int client = raw_client();
+        const int client = connect_client();
         // Refused when nothing can be read but the end.
         char nothing = 0;
         _exit(client >= 0 && read(client, &nothing, 1) == 0 ? 0 : 1);
