@@ -8,7 +8,7 @@ namespace {
 
 bool needs_escape(char32_t code)
 {
-    return code < 0x20 || code == U'"' || code == U'\\' || platform::is_surrogate(code);
+    return code < 0x20 || platform::is_surrogate(code);
 }
 
 }
@@ -39,6 +39,8 @@ void SelectionJson::append_character(char32_t code)
             text_ += digits[code >> shift & 0xF];
         return;
     }
+    if (code == U'"' || code == U'\\')
+        text_ += '\\';
     std::array<char, 4> bytes{};
     text_.append(bytes.data(), platform::put_utf8(bytes.data(), code));
 }
