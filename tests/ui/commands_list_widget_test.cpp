@@ -126,6 +126,7 @@ TEST_F(CommandsListUse, AChangeKeepsThePlace)
         names << QString::number(i);
     app.menu.set_commands(commands_named(names));
     app.menu.set_current_row(100);
+    QCoreApplication::processEvents();
     const int place = view.verticalScrollBar()->value();
     ASSERT_GT(place, 0);
     app.menu.rename(100, u"New", u"");

@@ -58,12 +58,14 @@ void CommandsListWidget::follow_controller()
     const QScopedValueRollback guard(syncing_, true);
     CommandsSelectionModel& selection = controller_.selection();
     const int row = controller_.current_index();
-    if (row < 0)
+    if (row < 0) {
         selection.clear();
-    // A row that is current already keeps the others that are selected with it.
-    else if (selection.currentIndex().row() != row)
+    } else if (selection.currentIndex().row() != row) {
+        // A row that is current already keeps its place under the mouse and the others that are selected with it.
         selection.setCurrentIndex(controller_.model().index(row, CommandsListModel::NameColumn),
                                   QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        view_->show_row(selection.currentIndex());
+    }
 }
 
 void CommandsListWidget::follow_view(const QModelIndex& current)
