@@ -43,6 +43,12 @@ void CommandsListWidget::connect_view()
             &CommandsListWidget::follow_controller);
     connect(&controller_.selection(), &QItemSelectionModel::currentRowChanged, this,
             &CommandsListWidget::follow_view);
+    // An open edit gives the focus back to the view meanwhile, which takes the first row for want of another.
+    connect(&controller_.model(), &QAbstractItemModel::modelAboutToBeReset, this, [this] { syncing_ = true; });
+    connect(&controller_.model(), &QAbstractItemModel::modelReset, this, [this] {
+        controller_.selection().clear();
+        syncing_ = false;
+    });
     connect(view_, &CommandsTableView::delete_selected, &controller_, &CommandsListController::delete_selected);
     connect(view_, &CommandsTableView::show_context_menu, this, &CommandsListWidget::show_menu);
     connect(view_, &CommandsTableView::clicked, this, &CommandsListWidget::cell_clicked);
