@@ -1,0 +1,32 @@
+#include "app/mirvanta_named_pipe_server.h"
+
+#include "app/selection_message.h"
+
+#include <QDebug>
+
+static_assert(NamedPipeServer::largest_message == largest_selection_message);
+
+MirvantaNamedPipeServer::MirvantaNamedPipeServer(QObject* parent) : QObject(parent) {}
+
+MirvantaNamedPipeServer::~MirvantaNamedPipeServer()
+{
+    end_delivery();
+}
+
+std::string MirvantaNamedPipeServer::pipe_name() const
+{
+    return "com.mirvanta.vellumark.api-1";
+}
+
+void MirvantaNamedPipeServer::message_received(const std::vector<char>& message)
+{
+    qDebug() << "Message received";
+    if (const auto selection = decode_selection_message(message))
+        emit context_menu_selected(selection->command_index, selection->paths);
+}
+
+void MirvantaNamedPipeServer::message_too_large(std::size_t size)
+{
+    qDebug() << "Message received";
+    log_too_large_message(size);
+}

@@ -1,0 +1,43 @@
+#include "app/selection_intake.h"
+
+#include <algorithm>
+#include <utility>
+
+SelectionIntake::SelectionIntake(QObject* parent) : QObject(parent) {}
+
+void SelectionIntake::add_reader(SelectionReader& reader)
+{
+    readers_.push_back(&reader);
+}
+
+void SelectionIntake::remove_reader(SelectionReader& reader)
+{
+    std::erase(readers_, &reader);
+    reading_ended();
+}
+
+void SelectionIntake::reading_ended()
+{
+    // Later: the caller stands in the middle of its own work, which the new selection would start again.
+    if (waiting_)
+        QMetaObject::invokeMethod(this, &SelectionIntake::proceed, Qt::QueuedConnection);
+}
+
+void SelectionIntake::take(int command_index, const QStringList& paths)
+{
+    waiting_ = Selection{command_index, paths};
+    proceed();
+}
+
+void SelectionIntake::proceed()
+{
+    if (!waiting_)
+        return;
+    for (SelectionReader* reader : readers_)
+        if (reader->is_reading())
+            reader->stop_reading();
+    if (std::ranges::any_of(readers_, &SelectionReader::is_reading))
+        return;
+    const Selection selection = *std::exchange(waiting_, std::nullopt);
+    emit selection_ready(selection.command_index, selection.paths);
+}

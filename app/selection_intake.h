@@ -1,0 +1,46 @@
+#pragma once
+
+#include "ui/selection_reader.h"
+
+#include <QObject>
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+/// Takes selections as they arrive and lets the newest one through as soon as nobody reads the old one: the readers
+/// at work are asked to stop, nothing waits for them. Main thread only.
+class SelectionIntake final : public QObject, public SelectionReaders
+{
+    Q_OBJECT
+
+public:
+    explicit SelectionIntake(QObject* parent = nullptr);
+
+    void add_reader(SelectionReader& reader) override;
+    void remove_reader(SelectionReader& reader) override;
+    void reading_ended() override;
+
+    bool is_selection_waiting() const override { return waiting_.has_value(); }
+
+public slots:
+    /// A selection has come. It replaces, with its index, one that still waits.
+    void take(int command_index, const QStringList& paths);
+
+signals:
+    /// Nobody reads the selection now: the slot changes it before it returns. Comes from within `take` when nobody
+    /// was reading.
+    void selection_ready(int command_index, QStringList paths);
+
+private:
+    struct Selection {
+        int command_index;
+        QStringList paths;
+    };
+
+    /// Lets the waiting selection through, or asks those who still read to stop.
+    void proceed();
+
+    std::optional<Selection> waiting_;
+    std::vector<SelectionReader*> readers_;
+};

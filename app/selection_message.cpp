@@ -1,0 +1,47 @@
+#include "app/selection_message.h"
+
+#include <QByteArrayView>
+#include <QDebug>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace {
+
+QStringList paths_of(const QJsonObject& message)
+{
+    QStringList paths;
+    for (const QJsonValue& path : message[QLatin1String("paths")].toArray())
+        if (const QString text = path.toString(); !text.isEmpty())
+            paths.append(text);
+    return paths;
+}
+
+}
+
+void log_too_large_message(std::size_t size)
+{
+    qDebug() << "Message too large:" << size << "bytes";
+}
+
+std::optional<SelectionMessage> decode_selection_message(std::span<const char> bytes)
+{
+    if (bytes.size() > largest_selection_message) {
+        log_too_large_message(bytes.size());
+        return std::nullopt;
+    }
+    const auto raw = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    const QJsonDocument document = QJsonDocument::fromJson(raw);
+    if (document.isNull()) {
+        qDebug() << "Invalid JSON received";
+        return std::nullopt;
+    }
+    qDebug() << "OK";
+    const QJsonObject object = document.object();
+    SelectionMessage message{object[QLatin1String("commandIndex")].toInt(-1), paths_of(object)};
+    if (message.paths.isEmpty()) {
+        qDebug() << "No paths";
+        return std::nullopt;
+    }
+    return message;
+}
