@@ -1,0 +1,63 @@
+#pragma once
+
+#include "store/commands_file.h"
+#include "ui/lists/show_marks.h"
+
+#include <QAbstractTableModel>
+#include <QIcon>
+
+class AppServices;
+class CommandsListController;
+
+/// The rows of a list: its commands as they are and as they were saved last. Main thread only.
+class CommandsListModel final : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    enum Column { MarkColumn, NameColumn, MenuColumn, ColumnCount };
+
+    /// Child of its controller.
+    CommandsListModel(AppServices& app, CommandsListController& controller);
+
+    const CommandList& commands() const { return commands_; }
+
+    /// The list as it was loaded or saved last.
+    const CommandList& saved_commands() const { return saved_commands_; }
+
+    /// For the controller, which tells the world of it.
+    void set_commands(CommandList commands);
+    /// A list as it was loaded: its commands are the saved ones, and what is edited are clones that know them.
+    void set_saved_commands(CommandList commands);
+    /// The list is saved as it is.
+    void mark_saved();
+
+    /// The commands or the selection changed behind the rows.
+    void refresh_rows();
+    void refresh_row(int row);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    Qt::DropActions supportedDropActions() const override;
+    QMap<int, QVariant> itemData(const QModelIndex& index) const override;
+    QMimeData* mimeData(const QModelIndexList& indexes) const override;
+    bool dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+                      const QModelIndex& parent) override;
+
+private:
+    using Command = std::shared_ptr<MVCommandBase>;
+
+    QVariant mark_data(const Command& command, int role) const;
+    QVariant name_data(const Command& command, int role) const;
+    void command_decided(const Command& command);
+
+    CommandsListController& controller_;
+    mutable ShowMarks show_marks_;
+    CommandList commands_;
+    CommandList saved_commands_;
+    QIcon unsaved_icon_;
+    QIcon no_save_icon_;
+};

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QTableView>
+
+/// The table of a list of commands, rows of one height. Main thread only.
+class CommandsTableView final : public QTableView
+{
+    Q_OBJECT
+
+public:
+    explicit CommandsTableView(QWidget* parent = nullptr);
+
+    /// The middle of a cell, in global coordinates.
+    QPoint cell_centre(const QModelIndex& index) const;
+
+signals:
+    void delete_selected();
+    /// `row` is -1 below the last row.
+    void show_context_menu(QPoint global_position, int row);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void set_up_headers();
+    void fit_rows_to_font();
+    void show_menu_of_current_row();
+};
