@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/mirvanta_named_pipe_server.h"
+#include "app/save_flow.h"
 #include "app/selection_intake.h"
 #include "app/stored_state.h"
 #include "ui/app_services.h"
@@ -14,6 +15,7 @@
 #include <vector>
 
 class MainAppUi;
+class ToolRow;
 
 /// Makes the editors, in the order in which they are offered a command.
 using MakeEditors = std::function<std::vector<std::unique_ptr<CommandControllerBase>>(AppServices&)>;
@@ -82,11 +84,8 @@ private:
     void start_intake();
     void connect_lists();
     void lay_out();
-    QLayout* make_tool_row();
-    QWidget* make_button_box();
     void restore_window();
     void add_editors(const MakeEditors& make_editors);
-    void select_initial_command();
     void show_list(int list);
     void refresh_save_and_delete();
     void take_selection(int command_index, const QStringList& paths);
@@ -97,6 +96,7 @@ private:
     CommandsListController library_list_;
     int active_list_ = 0; ///< 0 the menu list, 1 the library: the tab's number
     StoredState stored_;
+    SaveFlow save_flow_;
     QUndoStack undo_stack_;
     SelectionIntake intake_;
     MirvantaNamedPipeServer pipe_server_;
@@ -104,4 +104,5 @@ private:
     CommandControllerBase* current_editor_ = nullptr;
     // Goes first: its widgets use all of the above.
     std::unique_ptr<MainAppUi> ui_;
+    ToolRow* tool_row_ = nullptr;
 };
