@@ -89,9 +89,14 @@ ShowRule VellumarkCommand::default_show_rule() const
     return needs_file ? ShowRule::AtLeastOneFile : ShowRule::AtLeastOneItem;
 }
 
+bool VellumarkCommand::show_rule_holds(const MVItemsSet& selection) const
+{
+    return holds(fields_.show_using_default_rules ? default_show_rule() : fields_.show_rule, selection);
+}
+
 bool VellumarkCommand::is_shown_for(const MVItemsSet& selection) const
 {
-    if (!holds(fields_.show_using_default_rules ? default_show_rule() : fields_.show_rule, selection))
+    if (!show_rule_holds(selection))
         return false;
     if (!file_filter_active() && !folder_filter_active())
         return true;

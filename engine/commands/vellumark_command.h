@@ -110,6 +110,9 @@ public:
     /// The rule that stands in while the command shows by default rules: it follows from the template.
     ShowRule default_show_rule() const;
 
+    /// Whether the selection is one that the command's rule asks for; its filters aren't looked at.
+    bool show_rule_holds(const MVItemsSet& selection) const;
+
     /// Whether the menu shows the command: its rule holds, and an active filter leaves at least one item.
     bool is_shown_for(const MVItemsSet& selection) const;
 

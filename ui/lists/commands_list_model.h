@@ -32,7 +32,7 @@ public:
     /// The list is saved as it is.
     void mark_saved();
 
-    /// The commands or the selection changed behind the rows.
+    /// The commands or the selection changed behind the rows, so that these have to be painted again.
     void refresh_rows();
     void refresh_row(int row);
 
@@ -42,7 +42,9 @@ public:
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
     Qt::DropActions supportedDropActions() const override;
+    /// What a drag carries of a cell: where it goes to, the row is enough.
     QMap<int, QVariant> itemData(const QModelIndex& index) const override;
+    /// One cell a row stands for all of them.
     QMimeData* mimeData(const QModelIndexList& indexes) const override;
     bool dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
                       const QModelIndex& parent) override;
@@ -50,8 +52,9 @@ public:
 private:
     using Command = std::shared_ptr<MVCommandBase>;
 
-    QVariant mark_data(const Command& command, int role) const;
+    QVariant mark_data(const MVCommandBase& command, int role) const;
     QVariant name_data(const Command& command, int role) const;
+    QVariant menu_button_data(int role) const;
     void command_decided(const Command& command);
 
     CommandsListController& controller_;

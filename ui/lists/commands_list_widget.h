@@ -36,7 +36,6 @@ signals:
     void list_clicked();
 
 private:
-    void set_up_view();
     void connect_view();
     void show_menu(QPoint global_position, int row);
     void cell_clicked(const QModelIndex& index);

@@ -10,6 +10,9 @@ class CommandsTableView final : public QTableView
 public:
     explicit CommandsTableView(QWidget* parent = nullptr);
 
+    /// `model` has the columns of a CommandsListModel.
+    void setModel(QAbstractItemModel* model) override;
+
     /// The middle of a cell, in global coordinates.
     QPoint cell_centre(const QModelIndex& index) const;
 

@@ -2,6 +2,7 @@
 
 #include <QTimer>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <unordered_map>
@@ -37,7 +38,8 @@ private:
     };
 
     bool filters_pass(const Command& command, const VellumarkCommand& vellumark);
-    void look_at(const VellumarkCommand& command, Search& search, std::size_t items) const;
+    /// Looks at further items, at least at one.
+    void go_on(Search& search, const VellumarkCommand& command, std::chrono::steady_clock::time_point until) const;
     void work();
     void wait_for(const Command& command);
 

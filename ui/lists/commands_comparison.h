@@ -1,0 +1,7 @@
+#pragma once
+
+#include "store/commands_file.h"
+
+/// Whether two lists hold equal commands in the same order. Commands that were taken from the last session's run
+/// count in neither: they are nothing that the user did.
+bool same_commands(const CommandList& left, const CommandList& right);

@@ -1,0 +1,28 @@
+#include "ui/lists/undo_change_stored_commands_list.h"
+
+#include "ui/lists/commands_list_controller.h"
+
+namespace {
+
+void apply(CommandsListController& controller, const ListState& state)
+{
+    controller.set_commands(state.commands);
+    controller.set_current_row(state.current);
+}
+
+}
+
+UndoChangeStoredCommandsList::UndoChangeStoredCommandsList(CommandsListController& controller, ListState state,
+                                                           const QString& text)
+    : QUndoCommand(text), controller_(controller), old_(controller.state()), new_(std::move(state))
+{}
+
+void UndoChangeStoredCommandsList::undo()
+{
+    apply(controller_, old_);
+}
+
+void UndoChangeStoredCommandsList::redo()
+{
+    apply(controller_, new_);
+}
