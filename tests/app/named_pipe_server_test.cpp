@@ -1,0 +1,166 @@
+#include "app/mirvanta_named_pipe_server.h"
+#include "debug_log.h"
+#include "platform/message_pipe.h"
+#include "support/error_output.h"
+#include "support/raw_client.h"
+#include "support/scoped_variable.h"
+#include "support/temp_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <future>
+#include <stdexcept>
+#include <thread>
+#include <vector>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto hang = 60s;
+
+/// A server whose pipe lies in a folder of its own. Its thread outlives the test, blocked.
+class NamedPipeServerTest : public testing::Test
+{
+protected:
+    void start(std::chrono::milliseconds patience = hang)
+    {
+        server_.start(patience);
+        const auto end = std::chrono::steady_clock::now() + hang;
+        while (send("") == std::errc::connection_refused && std::chrono::steady_clock::now() < end)
+            std::this_thread::sleep_for(1ms);
+    }
+
+    /// Returns when the server has read it; what it leads to may come a moment later.
+    std::error_code send(std::string_view message)
+    {
+        return platform::send_message(server_.pipe_name(), message, hang);
+    }
+
+    bool wait_for(int count)
+    {
+        return QTest::qWaitFor([&] { return selections_.size() >= count; }, 60'000);
+    }
+
+    TempFolder folder_;
+    ScopedVariable session_{"XDG_RUNTIME_DIR", folder_.host()};
+    DebugLog log_;
+    QStringList selections_;
+    QObject main_;
+    MirvantaNamedPipeServer server_;
+
+    NamedPipeServerTest()
+    {
+        QObject::connect(&server_, &MirvantaNamedPipeServer::context_menu_selected, &main_,
+                         [this](int index, const QStringList& paths) {
+                             selections_ += QString::number(index) + ":" + paths.join(',');
+                         });
+    }
+};
+
+std::string message_of(std::size_t size)
+{
+    std::string message = R"({"commandIndex":5,"paths":["C:\\a"]})";
+    message.resize(size, ' ');
+    return message;
+}
+
+}
+
+TEST_F(NamedPipeServerTest, ServesOneClientAfterTheOther)
+{
+    start();
+    for (const std::size_t size : {100u, 8192u, 8193u, 20'000u, 8u << 20})
+        EXPECT_FALSE(send(message_of(size)));
+    EXPECT_FALSE(send("garbage"));
+    EXPECT_FALSE(send(R"({"paths":["C:\\b"]})"));
+    EXPECT_TRUE(wait_for(6));
+    EXPECT_EQ(selections_.join(' '), "5:C:\\a 5:C:\\a 5:C:\\a 5:C:\\a 5:C:\\a -1:C:\\b");
+}
+
+TEST_F(NamedPipeServerTest, TooLargeMessagesAreCountedAndDropped)
+{
+    start();
+    EXPECT_FALSE(send(message_of((8 << 20) + 1)));
+    EXPECT_FALSE(send(message_of(64 << 20)));
+    const ErrorOutput output;
+    EXPECT_TRUE(send(message_of(100 << 20)));
+    EXPECT_EQ(output.wait(), "NamedPipeServer error: ReadFile() failed; Error=0x0000005a\n");
+    EXPECT_FALSE(send(message_of(50)));
+    EXPECT_TRUE(wait_for(1));
+    EXPECT_EQ(DebugLog::text(), "Message received|Invalid JSON received|"
+                                "Message received|Message too large: 8388609 bytes|"
+                                "Message received|Message too large: 67108864 bytes|Message received|OK");
+}
+
+TEST_F(NamedPipeServerTest, BurstFromManyClientsArrivesWhole)
+{
+    start();
+    std::vector<std::future<void>> clients;
+    for (int client = 0; client < 4; ++client)
+        clients.push_back(std::async(std::launch::async, [&, client] {
+            for (int i = 0; i < 50; ++i)
+                EXPECT_FALSE(send("{\"commandIndex\":" + std::to_string(client * 50 + i) + ",\"paths\":[\"x\"]}"));
+        }));
+    EXPECT_TRUE(wait_for(200));
+    selections_.removeDuplicates();
+    EXPECT_EQ(selections_.size(), 200);
+}
+
+TEST_F(NamedPipeServerTest, SilentClientBlocksNobodyForLong)
+{
+    start(100ms);
+    const ErrorOutput output;
+    const int silent = raw_client(folder_.host(server_.pipe_name()));
+    ASSERT_GE(silent, 0);
+    EXPECT_FALSE(send(message_of(50)));
+    EXPECT_TRUE(wait_for(1));
+    EXPECT_EQ(output.wait(), "NamedPipeServer error: ReadFile() failed; Error=0x0000006e\n");
+    close(silent);
+}
+
+TEST_F(NamedPipeServerTest, SecondServerGoesWithoutIntake)
+{
+    start();
+    MirvantaNamedPipeServer second;
+    const ErrorOutput output;
+    second.start();
+    EXPECT_EQ(output.wait(), "NamedPipeServer error: CreateNamedPipe() failed; Error=0x00000062\n");
+    EXPECT_FALSE(send(message_of(50)));
+    EXPECT_TRUE(wait_for(1));
+}
+
+TEST_F(NamedPipeServerTest, ServerThatGoesIsLeftAlone)
+{
+    auto server = std::make_unique<MirvantaNamedPipeServer>();
+    server->start();
+    auto clients = std::async(std::launch::async, [&] {
+        for (int i = 0; i < 500; ++i)
+            send(message_of(50));
+    });
+    std::this_thread::sleep_for(20ms);
+    server.reset();
+    clients.get();
+}
+
+TEST_F(NamedPipeServerTest, NoThreadIsAnError)
+{
+    const auto start_without_threads = [&] {
+        const rlimit none{0, 0};
+        if ((geteuid() == 0 && setuid(65534) != 0) || setrlimit(RLIMIT_NPROC, &none) != 0)
+            _exit(1);
+        try {
+            server_.start();
+            _exit(2);
+        } catch (const std::runtime_error& error) {
+            fputs(error.what(), stderr);
+            _exit(0);
+        }
+    };
+    EXPECT_EXIT(start_without_threads(), testing::ExitedWithCode(0), "^CreateThread\\(\\) failed with error 11$");
+}

@@ -1,0 +1,139 @@
+#include "app/selection_intake.h"
+
+#include <gtest/gtest.h>
+
+#include <QSignalSpy>
+#include <QTest>
+
+#include <atomic>
+#include <chrono>
+#include <thread>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+/// Reads `selection` on a thread, without a lock, until it is asked to stop, and a while longer.
+class SlowReader final : public SelectionReader
+{
+public:
+    SlowReader(SelectionReaders& readers, QObject& main, const std::string& selection)
+        : readers_(readers), main_(main), selection_(selection)
+    {
+        readers_.add_reader(*this);
+    }
+
+    ~SlowReader()
+    {
+        stop_reading();
+        if (thread_.joinable())
+            thread_.join();
+        readers_.remove_reader(*this);
+    }
+
+    void start()
+    {
+        if (thread_.joinable())
+            thread_.join();
+        stops_ = false;
+        reads_ = true;
+        thread_ = std::thread([this] {
+            const std::string before = selection_;
+            const auto is_changed = [&] { return selection_ != before; };
+            while (!stops_)
+                changed_ = changed_ || is_changed();
+            for (const auto end = std::chrono::steady_clock::now() + 30ms; std::chrono::steady_clock::now() < end;)
+                changed_ = changed_ || is_changed();
+            reads_ = false;
+            QMetaObject::invokeMethod(
+                &main_, [this] { readers_.reading_ended(); }, Qt::QueuedConnection);
+        });
+    }
+
+    bool is_reading() const override { return reads_; }
+
+    void stop_reading() override { stops_ = true; }
+
+    bool has_seen_a_change() const { return changed_; }
+
+private:
+    SelectionReaders& readers_;
+    QObject& main_;
+    const std::string& selection_;
+    std::atomic<bool> stops_ = false, reads_ = false, changed_ = false;
+    std::thread thread_;
+};
+
+class SelectionIntakeTest : public testing::Test
+{
+protected:
+    SelectionIntakeTest()
+    {
+        QObject::connect(&intake_, &SelectionIntake::selection_ready, [this](int index, const QStringList& paths) {
+            EXPECT_FALSE(intake_.is_selection_waiting());
+            selection_ = std::to_string(index) + ":" + paths.join(',').toStdString();
+            history_ += selection_ + " ";
+            if (after_change_)
+                after_change_();
+        });
+    }
+
+    bool settles()
+    {
+        return QTest::qWaitFor([this] { return !intake_.is_selection_waiting(); }, 60'000);
+    }
+
+    SelectionIntake intake_;
+    std::string selection_, history_;
+    std::function<void()> after_change_;
+};
+
+}
+
+TEST_F(SelectionIntakeTest, NobodyReads)
+{
+    SlowReader reader(intake_, intake_, selection_);
+    intake_.take(1, {"a", "b"});
+    intake_.take(-1, {"c"});
+    EXPECT_EQ(history_, "1:a,b -1:c ");
+}
+
+TEST_F(SelectionIntakeTest, NewestOneIsTakenWhenAllReadersHaveEnded)
+{
+    SlowReader first(intake_, intake_, selection_), second(intake_, intake_, selection_);
+    first.start();
+    intake_.take(3, {"a"});
+    EXPECT_TRUE(intake_.is_selection_waiting());
+    second.start();
+    intake_.take(4, {"b"});
+    intake_.take(-1, {"c"});
+    EXPECT_EQ(history_, "");
+    EXPECT_TRUE(settles());
+    EXPECT_EQ(history_, "-1:c ");
+    EXPECT_FALSE(first.has_seen_a_change() || second.has_seen_a_change());
+}
+
+TEST_F(SelectionIntakeTest, ReaderThatIsStartedAgainAfterEachChange)
+{
+    SlowReader reader(intake_, intake_, selection_);
+    after_change_ = [&] { reader.start(); };
+    for (int round = 0; round < 10; ++round) {
+        for (int message = 0; message < 20; ++message)
+            intake_.take(message, {QString::number(round)});
+        EXPECT_TRUE(settles());
+        EXPECT_EQ(selection_, "19:" + std::to_string(round));
+    }
+    EXPECT_FALSE(reader.has_seen_a_change());
+}
+
+TEST_F(SelectionIntakeTest, ReaderThatGoesHoldsNothingUp)
+{
+    {
+        SlowReader reader(intake_, intake_, selection_);
+        reader.start();
+        intake_.take(0, {"a"});
+        EXPECT_EQ(history_, "");
+    }
+    EXPECT_TRUE(settles());
+    EXPECT_EQ(history_, "0:a ");
+}
