@@ -29,6 +29,8 @@ QWidget* MainAppUi::make_left_pane()
     layout->setContentsMargins(0, 0, 0, 0);
     tabs_ = new QTabWidget;
     tabs_->setDocumentMode(true);
+    // Both titles stay in sight, however long they are in another language.
+    tabs_->setUsesScrollButtons(false);
     tabs_->addTab(make_list(app_.menu_list(), false), tr("Context Menu Commands"));
     tabs_->addTab(make_list(app_.library_list(), true), tr("Commands Library"));
     connect(tabs_, &QTabWidget::currentChanged, &app_, &MirvantaApp::active_tab_changed);
