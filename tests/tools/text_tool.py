@@ -49,6 +49,8 @@ COMMANDS = {
 
 
 class ToolTest(unittest.TestCase):
+    program = PROGRAM
+
     def setUp(self):
         folder = os.path.realpath(tempfile.mkdtemp(prefix="vellumark-"))
         self.addCleanup(shutil.rmtree, folder)
@@ -75,7 +77,7 @@ class ToolTest(unittest.TestCase):
         own = ["--commands", self.home + "/commands.json"] if own_commands else []
         pipes = dict.fromkeys(["stdin", "stdout", "stderr"], subprocess.PIPE)
         options = pipes | {"cwd": self.folder, "env": self.environment} | options
-        return subprocess.Popen([PROGRAM, *own, *arguments], **options)
+        return subprocess.Popen([self.program, *own, *arguments], **options)
 
     def run_tool(self, *arguments, given=b"", **options):
         """Exit status, standard output and standard error."""

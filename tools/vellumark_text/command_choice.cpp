@@ -1,8 +1,8 @@
 #include "vellumark_text/command_choice.h"
 
+#include "common/printable.h"
 #include "engine/text/utf.h"
 #include "store/builtin_command_info.h"
-#include "vellumark_text/printable.h"
 
 #include <algorithm>
 #include <stdexcept>

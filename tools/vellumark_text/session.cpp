@@ -1,56 +1,23 @@
 #include "vellumark_text/session.h"
 
-#include "engine/items/mv_item_exception.h"
+#include "common/selection.h"
+#include "common/selection_paths.h"
+#include "common/tool.h"
 #include "engine/text/utf.h"
 #include "platform/known_folders.h"
 #include "platform/utf.h"
 #include "store/json_file_reader.h"
 #include "store/mv_config.h"
 #include "vellumark_text/command_choice.h"
-#include "vellumark_text/printable.h"
-#include "vellumark_text/selection_paths.h"
 #include "vellumark_text/status_line.h"
 
-#include <boost/system/system_error.hpp>
-
 #include <algorithm>
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
-#include <new>
 #include <stdexcept>
 #include <string>
 
 namespace {
 
-enum ExitStatus { success = 0, failure = 1, wrong_usage = 2 };
-
-void complain(const std::string& message)
-{
-    std::fputs(("vellumark-text: " + printable(message) + "\n").c_str(), stderr);
-}
-
-/// The library's own text would end in places of its source code.
-std::string words_of(const std::exception& error)
-{
-    if (const auto* system = dynamic_cast<const boost::system::system_error*>(&error))
-        return system->code().message();
-    if (dynamic_cast<const std::bad_alloc*>(&error))
-        return "out of memory";
-    return error.what();
-}
-
-void write_out(std::string_view bytes)
-{
-    if (std::fwrite(bytes.data(), 1, bytes.size(), stdout) != bytes.size())
-        throw std::runtime_error(std::string("standard output: ") + std::strerror(errno));
-}
-
-void finish_output()
-{
-    if (std::fflush(stdout) != 0)
-        throw std::runtime_error(std::string("standard output: ") + std::strerror(errno));
-}
+const Tool tool("vellumark-text");
 
 /// In slices, so that a long text is not held a second time.
 void write_text(std::u16string_view text)
@@ -85,22 +52,10 @@ StoredCommands load_commands(const Options& options)
 
 int Session::run(int argc, const char* const* argv)
 {
-    try {
+    return tool.run([&] {
         const Options options = parse_options(argc, argv);
-        if (options.help || options.version) {
-            write_out(options.help ? help_text() : "vellumark-text " VELLUMARK_VERSION "\n");
-            finish_output();
-            return success;
-        }
-        return run_command(options);
-    } catch (const UsageError& error) {
-        complain(error.what());
-        std::fputs("Try 'vellumark-text --help'.\n", stderr);
-        return wrong_usage;
-    } catch (const std::exception& error) {
-        complain(words_of(error));
-        return failure;
-    }
+        return tool.answered(options, help_text) ? exit_status::success : run_command(options);
+    });
 }
 
 int Session::run_command(const Options& options)
@@ -109,43 +64,15 @@ int Session::run_command(const Options& options)
     if (options.list) {
         write_out(list_commands(commands));
         finish_output();
-        return success;
+        return exit_status::success;
     }
     const auto command = choose_command(commands, options);
-    const bool all_added = select_paths(options);
+    const bool all_added = select_paths(selection_, options, tool);
     std::u16string text;
     {
         StatusLine status;
         command->generate_text(text, selection_, status);
     }
     write_text(text);
-    return all_added ? success : failure;
-}
-
-bool Session::select_paths(const Options& options)
-{
-    bool all_added = true;
-    for_each_path(options, [&](std::string_view path) {
-        const std::string reason = select(path);
-        if (reason.empty())
-            return;
-        complain("cannot select '" + std::string(path) + "': " + reason);
-        all_added = false;
-    });
-    return all_added;
-}
-
-std::string Session::select(std::string_view path)
-{
-    if (path.empty())
-        return "the path is empty";
-    const std::u16string system_path = to_system_path(path);
-    try {
-        selection_.add_path(system_path);
-        return {};
-    } catch (const MVItemException& error) {
-        return error.what();
-    } catch (const AttributesUnreadable&) {
-        return reason_of_refusal(system_path);
-    }
+    return all_added ? exit_status::success : exit_status::failure;
 }

@@ -3,9 +3,6 @@
 #include "engine/items/mv_items_set.h"
 #include "vellumark_text/options.h"
 
-#include <string>
-#include <string_view>
-
 /// One run of the program.
 class Session
 {
@@ -16,11 +13,6 @@ public:
 
 private:
     int run_command(const Options& options);
-    /// False when a path could not be added; each has been reported.
-    bool select_paths(const Options& options);
-
-    /// Empty, or why the path could not be added.
-    std::string select(std::string_view path);
 
     MVItemsSet selection_;
 };

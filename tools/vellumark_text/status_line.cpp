@@ -1,8 +1,8 @@
 #include "vellumark_text/status_line.h"
 
+#include "common/printable.h"
 #include "engine/text/utf.h"
 #include "platform/paths.h"
-#include "vellumark_text/printable.h"
 
 #include <sys/ioctl.h>
 #include <unistd.h>

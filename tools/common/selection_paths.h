@@ -1,6 +1,6 @@
 #pragma once
 
-#include "vellumark_text/options.h"
+#include "common/command_line.h"
 
 #include <functional>
 #include <string>
@@ -8,7 +8,7 @@
 
 /// Calls `visit` for each path that the options name: first the arguments, then the entries of the list file, whose
 /// last one need not be ended. Throws std::runtime_error when the list can't be read.
-void for_each_path(const Options& options, const std::function<void(std::string_view path)>& visit);
+void for_each_path(const CommonOptions& options, const std::function<void(std::string_view path)>& visit);
 
 /// Drive or server form of a path: a host path is made absolute and normalised by text, a path in drive or server
 /// form stays as it is. Throws std::runtime_error for a relative path when the current folder is gone.

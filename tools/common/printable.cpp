@@ -1,4 +1,4 @@
-#include "vellumark_text/printable.h"
+#include "common/printable.h"
 
 #include "engine/text/utf.h"
 

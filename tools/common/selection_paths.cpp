@@ -1,4 +1,4 @@
-#include "vellumark_text/selection_paths.h"
+#include "common/selection_paths.h"
 
 #include "engine/text/letters.h"
 #include "platform/files.h"
@@ -74,7 +74,7 @@ std::u16string from_typed_path(std::string_view path)
 
 }
 
-void for_each_path(const Options& options, const std::function<void(std::string_view)>& visit)
+void for_each_path(const CommonOptions& options, const std::function<void(std::string_view)>& visit)
 {
     for (const std::string& path : options.paths)
         visit(path);

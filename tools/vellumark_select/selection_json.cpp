@@ -1,0 +1,46 @@
+#include "vellumark_select/selection_json.h"
+
+#include "platform/utf.h"
+
+#include <array>
+
+namespace {
+
+bool needs_escape(char32_t code)
+{
+    return code < 0x20 || platform::is_surrogate(code);
+}
+
+}
+
+SelectionJson::SelectionJson(std::optional<std::size_t> index)
+    : text_(index ? "{\"commandIndex\":" + std::to_string(*index) + ",\"paths\":[" : "{\"paths\":[")
+{}
+
+void SelectionJson::add(std::u16string_view path)
+{
+    text_ += is_empty_ ? "\"" : ",\"";
+    is_empty_ = false;
+    for (std::size_t i = 0; i < path.size(); ++i) {
+        const bool is_pair =
+            platform::is_high_surrogate(path[i]) && i + 1 < path.size() && platform::is_low_surrogate(path[i + 1]);
+        append_character(is_pair ? platform::from_surrogates(path[i], path[i + 1]) : path[i]);
+        i += is_pair ? 1 : 0;
+    }
+    text_ += '"';
+}
+
+void SelectionJson::append_character(char32_t code)
+{
+    if (needs_escape(code)) {
+        constexpr std::string_view digits = "0123456789abcdef";
+        text_ += "\\u";
+        for (int shift = 12; shift >= 0; shift -= 4)
+            text_ += digits[code >> shift & 0xF];
+        return;
+    }
+    if (code == U'"' || code == U'\\')
+        text_ += '\\';
+    std::array<char, 4> bytes{};
+    text_.append(bytes.data(), platform::put_utf8(bytes.data(), code));
+}
