@@ -10,6 +10,7 @@
 #include <QGridLayout>
 #include <QIcon>
 #include <QLabel>
+#include <QPushButton>
 #include <QUrl>
 
 namespace {
@@ -62,10 +63,13 @@ AboutDlg::AboutDlg(QWidget* parent) : QDialog(parent), link_(new QLabel)
     grid->addWidget(label_of(version, 10, QFont::Normal), 1, 1);
     grid->addWidget(link_, 2, 1);
     grid->addWidget(legal, 3, 1);
-    grid->addWidget(buttons, 4, 0, 1, 2);
+    grid->setRowMinimumHeight(4, 6);
+    grid->addWidget(buttons, 5, 0, 1, 2);
     grid->setHorizontalSpacing(18);
     grid->setColumnStretch(1, 1);
     grid->setSizeConstraint(QLayout::SetFixedSize);
+    // Not to the link, which comes first.
+    buttons->button(QDialogButtonBox::Ok)->setFocus();
 }
 
 void AboutDlg::changeEvent(QEvent* event)

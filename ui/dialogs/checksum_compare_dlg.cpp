@@ -54,7 +54,7 @@ QLabel* badge(bool equal)
 void add_row(QGridLayout& grid, const QString& name, std::u16string_view checksum)
 {
     const int row = grid.rowCount();
-    grid.addWidget(new QLabel(name), row, 0, Qt::AlignTop);
+    grid.addWidget(new QLabel(name), row, 0);
     grid.addWidget(checksum_label(checksum), row, 1);
 }
 
@@ -73,7 +73,10 @@ ChecksumCompareDlg::ChecksumCompareDlg(const ChecksumComparison& comparison, QWi
     grid->setColumnStretch(1, 1);
     add_row(*grid, tr("Clipboard:"), comparison.copied);
     add_row(*grid, tr("File:"), comparison.generated);
-    grid->addWidget(badge(comparison.equal), grid->rowCount(), 1, Qt::AlignLeft);
+    QLabel* verdict = badge(comparison.equal);
+    verdict->setToolTip(
+        QString::fromUtf8(comparison.type_name.data(), static_cast<qsizetype>(comparison.type_name.size())));
+    grid->addWidget(verdict, grid->rowCount(), 1, Qt::AlignLeft);
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);

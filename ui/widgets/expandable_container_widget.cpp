@@ -6,7 +6,7 @@
 
 #include <chrono>
 
-ExpandableContainerWidget::ExpandableContainerWidget(QWidget* parent) : QWidget(parent)
+ExpandableContainerWidget::ExpandableContainerWidget(QWidget* parent) : QWidget(parent), timer_(this)
 {
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     timer_.setInterval(std::chrono::milliseconds(10));
