@@ -41,10 +41,10 @@ TEST_F(AppTest, SavesWhatMayBeSaved)
     };
 
     const Case cases[] = {
-        {"A, B, More", {1}, "", true, "", "menu[A, More] library[L] presets[]"},
+        {"A, B, More", {1}, "", true, "", "menu[A, More] library[L hidden] presets[]"},
         {"A, B, More", {2}, "Cancel", true, no_configure_box, ""},
         {"A, B, More", {2}, "", true, no_configure_box, ""},
-        {"A, B, More", {2}, "Save", true, no_configure_box, "menu[A, B] library[L] presets[]"},
+        {"A, B, More", {2}, "Save", true, no_configure_box, "menu[A, B] library[L hidden] presets[]"},
         {"A, More", {0, 1}, "OK", true, menu_empty_box, ""},
         {"A, B, More", {1}, "OK", false, write_failed_box, ""},
     };

@@ -4,12 +4,12 @@
 #include "app/appearance.h"
 #include "engine/items/mv_items_set.h"
 #include "ui/colours.h"
+#include "ui/lists/commands_table_view.h"
 #include "ui/selection_reader.h"
 #include "ui/text.h"
 
 #include <QApplication>
 #include <QDesktopServices>
-#include <QTableView>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
@@ -97,10 +97,11 @@ TEST_F(AppTest, SwallowsReturnWhereTheDialogHasNoFocus)
 {
     store("A, More");
     open();
-    auto* list = app->findChild<QTableView*>();
     app->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(app.get()));
+    auto* list = app->findChild<CommandsTableView*>();
     list->setFocus();
-    ASSERT_TRUE(QTest::qWaitFor([list] { return list->hasFocus(); }, 5000));
+    ASSERT_TRUE(list->hasFocus());
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
         QTest::keyClick(list, key);
         EXPECT_TRUE(app->isVisible());
