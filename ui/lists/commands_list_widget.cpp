@@ -31,6 +31,12 @@ CommandsListWidget::CommandsListWidget(AppServices& app, CommandsListController&
     follow_controller();
 }
 
+CommandsListWidget::~CommandsListWidget()
+{
+    // An edit that is open is finished then, which has to find this object whole.
+    delete view_;
+}
+
 void CommandsListWidget::connect_view()
 {
     connect(&controller_, &CommandsListController::current_command_index_changed, this,

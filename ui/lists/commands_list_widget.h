@@ -18,6 +18,7 @@ class CommandsListWidget final : public QWidget
 public:
     CommandsListWidget(AppServices& app, CommandsListController& controller, bool is_library,
                        QWidget* parent = nullptr);
+    ~CommandsListWidget() override;
 
     CommandsListController& controller() const { return controller_; }
 

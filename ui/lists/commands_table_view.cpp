@@ -96,6 +96,15 @@ void CommandsTableView::show_menu_of_current_row()
     emit show_context_menu(cell_centre(button), button.row());
 }
 
+void CommandsTableView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    // The edit gave the list new rows, so that the editor has been taken away already.
+    if (editor && editor->isHidden())
+        setFocus();
+    else
+        QTableView::closeEditor(editor, hint);
+}
+
 void CommandsTableView::dropEvent(QDropEvent* event)
 {
     // The table's own way moves the rows one by one and takes it as done when the first one stays in its place.

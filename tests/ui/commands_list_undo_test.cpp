@@ -1,0 +1,170 @@
+#include "list_fixture.h"
+#include "ui/lists/undo_move_command_between_lists.h"
+
+#include <QMimeData>
+#include <QSignalSpy>
+
+namespace {
+
+using CommandsListUndo = ListFixture;
+
+/// Drops rows as a drag does.
+bool drop(CommandsListModel& model, const QModelIndexList& indexes, int row)
+{
+    const std::unique_ptr<QMimeData> data(model.mimeData(indexes));
+    return model.dropMimeData(data.get(), Qt::MoveAction, row, 0, {});
+}
+
+TEST_F(CommandsListUndo, Select)
+{
+    expect_step("Select Stored Command", "A B >C D ", [&] { app.menu.select(2); });
+    for (const int row : {0, -1, 4})
+        app.menu.select(row);
+    EXPECT_TRUE(app.stack.canRedo()) << "what is current or missing pushes nothing";
+}
+
+TEST_F(CommandsListUndo, Delete)
+{
+    struct Row {
+        std::vector<int> rows; ///< the last one is current
+        std::string after;
+    };
+
+    for (const Row& row : std::vector<Row>{
+             {{0}, ">B C D Save"},
+             {{3}, "A B >C Save"},
+             {{0, 2}, "B >D Save"},
+             {{3, 2}, "A >B Save"},
+             {{1, 0, 3, 2}, "Save"},
+         }) {
+        select_rows(row.rows);
+        const std::string before = menu_shown();
+        app.menu.delete_selected();
+        EXPECT_EQ(menu_shown(), row.after);
+        EXPECT_EQ(app.stack.undoText(), "Delete Command");
+        app.stack.undo();
+        EXPECT_EQ(app.menu.current_index(), row.rows.back());
+        EXPECT_EQ(app.menu.commands().size(), 4U);
+        app.stack.redo();
+        EXPECT_EQ(menu_shown(), row.after);
+        app.stack.undo();
+    }
+    app.menu.selection().clearSelection();
+    const int steps = app.stack.index();
+    app.menu.delete_selected();
+    EXPECT_EQ(app.stack.index(), steps);
+}
+
+TEST_F(CommandsListUndo, RenameAndEditInPlace)
+{
+    const auto name_cell = [&](int row) { return app.menu.model().index(row, CommandsListModel::NameColumn); };
+    app.menu.set_current_row(1);
+    expect_step("Rename Stored Command", "A >New* C D Save", [&] { app.menu.rename(1, u"New", u"One"); });
+    expect_step("Rename Stored Command", "A >B* C D Save", [&] { app.menu.rename(1, u"B", u"One"); });
+    app.menu.rename(1, u"B", u"");
+    EXPECT_FALSE(app.menu.model().setData(name_cell(1), "B"));
+    EXPECT_TRUE(app.stack.canRedo()) << "nothing was new";
+
+    app.menu.rename(1, u"B", u"One");
+    expect_step("Rename Stored Command", "A >Unnamed* C D Save", [&] { app.menu.model().setData(name_cell(1), ""); });
+    app.menu.model().setData(name_cell(1), "E");
+    EXPECT_EQ(app.menu.current_command()->name1(), u"");
+}
+
+TEST_F(CommandsListUndo, CommitAndDiscard)
+{
+    auto from_last_session = commands_named({"L"}).front();
+    from_last_session->set_from_previous_session(true);
+    CommandList list = app.menu.commands();
+    list.push_back(from_last_session);
+    app.menu.set_commands(list);
+    app.menu.set_current_row(4);
+    EXPECT_EQ(menu_shown(), "A B C D >L (uncommitted changes)* ");
+    expect_step("Commit Changes", "A B C D >L* Save", [&] { app.menu.commit(4); });
+    app.menu.commit(0);
+    EXPECT_TRUE(app.stack.canRedo());
+
+    FakeEditor editor(app);
+    app.editor = &editor;
+    app.menu.set_current_row(1);
+    auto& command = dynamic_cast<VellumarkCommand&>(*app.menu.current_command());
+    command.set_separator(u"; ");
+    const QSignalSpy changes(&app.menu, &CommandsListController::commands_list_changed);
+    expect_step("Discard Changes", "A >B C D L (uncommitted changes)* ", [&] { app.menu.discard(1); });
+    EXPECT_EQ(command.separator(), u"; ");
+    EXPECT_EQ(editor.refreshed, 4) << "by each do, undo and redo";
+    EXPECT_EQ(changes.count(), 4);
+}
+
+TEST_F(CommandsListUndo, ReorderByDragging)
+{
+    struct Row {
+        std::vector<int> dragged; ///< the last one is current
+        int target;
+        std::string after;
+    };
+
+    CommandsListModel& model = app.menu.model();
+    for (const Row& row : std::vector<Row>{
+             {{0}, 4, "B C D >A Save"},
+             {{3}, 0, ">D A B C Save"},
+             {{3, 1}, 0, ">B D A C Save"},
+             {{0, 2}, -1, "B D A >C Save"},
+             {{1, 3}, 1, "A B >D C Save"},
+         }) {
+        select_rows(row.dragged);
+        const int steps = app.stack.index();
+        ASSERT_TRUE(drop(model, app.menu.selection().selectedIndexes(), row.target));
+        EXPECT_EQ(app.stack.index(), steps + 1);
+        EXPECT_EQ(app.stack.undoText(), "Undo Reorder Commands");
+        EXPECT_EQ(menu_shown(), row.after);
+        app.stack.undo();
+        EXPECT_EQ(app.menu.current_index(), row.dragged.back());
+        EXPECT_FALSE(app.menu.is_modified());
+        app.stack.redo();
+        EXPECT_EQ(menu_shown(), row.after);
+        app.stack.undo();
+    }
+    const QModelIndexList second{model.index(1, 0), model.index(1, 1), model.index(1, 2)};
+    for (const int target : {1, 2})
+        EXPECT_FALSE(drop(model, second, target)) << "stays where it is";
+    QMimeData torn;
+    torn.setData(model.mimeTypes().constFirst(), QByteArray("\0\0\0\3\0\0", 6));
+    EXPECT_FALSE(model.dropMimeData(&torn, Qt::MoveAction, 0, 0, {}));
+    EXPECT_TRUE(app.stack.canRedo());
+}
+
+TEST_F(CommandsListUndo, MoveBetweenLists)
+{
+    const CommandList menu = app.menu.commands();
+    const CommandList library = app.library.commands();
+    app.menu.set_current_row(3);
+    expect_step("Move", "A B >C Save", [&] {
+        app.stack.push(new UndoMoveCommandBetweenLists(app, {{menu[0], menu[1], menu[2]}, 2},
+                                                       {{library[0], menu[3]}, 1}, "Move"));
+        EXPECT_EQ(shown(library_widget), "X >D Save");
+    });
+    EXPECT_EQ(shown(library_widget), ">X ");
+}
+
+TEST_F(CommandsListUndo, StepsFromBeforeASave)
+{
+    app.menu.rename(0, u"E", u"");
+    select_rows({1});
+    app.menu.delete_selected();
+    app.menu.model().mark_saved();
+    EXPECT_EQ(menu_shown(), "E >C D ");
+    app.stack.undo();
+    EXPECT_EQ(menu_shown(), "E >B C D Save");
+    app.stack.redo();
+    EXPECT_EQ(menu_shown(), "E >C D ");
+
+    auto from_last_session = commands_named({"L"}).front();
+    from_last_session->set_from_previous_session(true);
+    app.menu.set_commands({from_last_session});
+    app.menu.model().mark_saved();
+    app.menu.set_current_row(0);
+    EXPECT_EQ(menu_shown(), ">L ") << "the file has it now";
+}
+
+}

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "engine/items/mv_items_set.h"
+#include "ui/app_services.h"
+#include "ui/editor/command_controller_base.h"
+#include "ui/lists/commands_list_controller.h"
+
+#include <QUndoStack>
+
+/// An application of two lists and an undo stack, without a window. What is called is written down.
+class FakeApp final : public AppServices
+{
+public:
+    CommandsListController& menu_list() override { return menu; }
+
+    CommandsListController& library_list() override { return library; }
+
+    CommandsListController& active_list() override { return menu; }
+
+    QUndoStack& undo_stack() override { return stack; }
+
+    std::shared_ptr<const MVItemsSet> selected_items() const override { return items; }
+
+    CommandControllerBase* current_editor() override { return editor; }
+
+    void duplicate_command_btn_pressed() override { calls += "duplicate "; }
+
+    void reset_stored_commands() override { calls += "reset "; }
+
+    void close_with_accept() override { calls += "accept "; }
+
+    QUndoStack stack;
+    std::shared_ptr<MVItemsSet> items = std::make_shared<MVItemsSet>();
+    CommandsListController menu{*this};
+    CommandsListController library{*this};
+    CommandControllerBase* editor = nullptr;
+    std::string calls;
+};
+
+/// An editor without a page.
+class FakeEditor final : public CommandControllerBase
+{
+public:
+    using CommandControllerBase::CommandControllerBase;
+
+    CommandMainWidgetBase* create_main_widget(QWidget*) override { return nullptr; }
+
+    bool set_current_command(const std::shared_ptr<MVCommandBase>&) override { return true; }
+
+    void refresh() override { ++refreshed; }
+
+    bool allows_duplicate() const override { return duplicates; }
+
+    int refreshed = 0;
+    bool duplicates = true;
+};
