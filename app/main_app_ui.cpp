@@ -120,6 +120,11 @@ void MainAppUi::show_tab(int tab)
     tabs_->setCurrentIndex(tab);
 }
 
+void MainAppUi::focus_list()
+{
+    tabs_->currentWidget()->setFocus();
+}
+
 void MainAppUi::save_settings(QSettings& settings) const
 {
     settings.setValue(settings_keys::horizontal_splitter, saveState());

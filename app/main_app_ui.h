@@ -32,6 +32,8 @@ public:
     void enable_delete_button(bool enabled);
 
     void show_tab(int tab);
+    /// Moves the focus to the list that shows.
+    void focus_list();
 
     /// The splitter, the tab and what the editors' pages keep.
     void save_settings(QSettings& settings) const;

@@ -30,6 +30,8 @@
 namespace {
 
 constexpr int menu_tab = 0, library_tab = 1;
+/// Of the window, both ways.
+constexpr int least_side = 600;
 
 void give_buttons_one_width(const QDialogButtonBox& box)
 {
@@ -56,9 +58,10 @@ MirvantaApp::MirvantaApp(const MakeEditors& make_editors)
       stored_(menu_list_, library_list_), save_flow_(*this, stored_, menu_list_)
 {
     setWindowTitle(QCoreApplication::applicationName());
-    setMinimumSize(600, 600);
     load_stored_commands();
     start_intake();
+    // The first in the window and in the tab order.
+    tool_row_ = new ToolRow(undo_stack_, this);
     ui_ = std::make_unique<MainAppUi>(*this);
     connect_lists();
     lay_out();
@@ -69,6 +72,7 @@ MirvantaApp::MirvantaApp(const MakeEditors& make_editors)
     show_list(select_initial_command(menu_list_, library_list_) ? library_tab : menu_tab);
     // Nobody has told of a current command where the list is empty.
     current_command_changed();
+    ui_->focus_list();
 }
 
 MirvantaApp::~MirvantaApp() = default;
@@ -110,15 +114,19 @@ void MirvantaApp::lay_out()
     connect(box, &QDialogButtonBox::rejected, this, &MirvantaApp::on_cancel);
     connect(box, &QDialogButtonBox::helpRequested, this, &MirvantaApp::on_help);
 
-    tool_row_ = new ToolRow(undo_stack_);
     connect(tool_row_, &ToolRow::about_requested, this, &MirvantaApp::on_about);
     connect(tool_row_, &ToolRow::stepped, this, [this] {
         if (current_editor_)
             current_editor_->refresh();
     });
 
-    auto* outer = new QVBoxLayout(this);
-    outer->setContentsMargins(0, 0, 0, 0);
+    // Struts rather than a minimum of the dialog itself, which would let texts of more room be cut.
+    auto* frame = new QHBoxLayout(this);
+    frame->setContentsMargins(0, 0, 0, 0);
+    frame->addStrut(least_side);
+    auto* outer = new QVBoxLayout;
+    outer->addStrut(least_side);
+    frame->addLayout(outer);
     outer->addWidget(tool_row_);
     auto* inner = new QVBoxLayout;
     inner->setContentsMargins(default_margins(*style()));

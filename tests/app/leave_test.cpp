@@ -142,6 +142,7 @@ TEST_F(AppTest, KeepsTheWindowsStateHoweverItIsLeft)
     for (const auto& leave : leaves) {
         QSettings().clear();
         open_again();
+        EXPECT_EQ(app->minimumSize(), QSize(600, 600));
         app->resize(811, 702);
         auto* splitter = app->findChild<QSplitter*>();
         splitter->setSizes({350, 400});
