@@ -3,10 +3,9 @@
 
 #include <QApplication>
 #include <QContextMenuEvent>
-#include <QDropEvent>
 #include <QLineEdit>
 #include <QMenu>
-#include <QMimeData>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -118,6 +117,23 @@ TEST_F(CommandsListUse, EditInPlace)
     EXPECT_EQ(app.stack.index(), steps);
     key(Qt::Key_F2); // and the window goes with the edit open
     QTest::keyClicks(view.findChild<QLineEdit*>(), "Last");
+}
+
+TEST_F(CommandsListUse, AChangeKeepsThePlace)
+{
+    QStringList names;
+    for (int i = 0; i < 200; ++i)
+        names << QString::number(i);
+    app.menu.set_commands(commands_named(names));
+    app.menu.set_current_row(100);
+    const int place = view.verticalScrollBar()->value();
+    ASSERT_GT(place, 0);
+    app.menu.rename(100, u"New", u"");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(view.verticalScrollBar()->value(), place);
+    app.stack.undo();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(view.verticalScrollBar()->value(), place);
 }
 
 TEST_F(CommandsListUse, WhatTheMenuOffers)

@@ -64,8 +64,10 @@ void CommandsListModel::mark_saved()
     for (const Command& command : commands_) {
         // The file has it now, so that from here on it is a command as any other.
         command->set_from_previous_session(false);
-        command->commit();
-        saved_commands_.push_back(command->clone());
+        Command saved = command->clone();
+        saved->set_committed(nullptr);
+        command->set_committed(saved);
+        saved_commands_.push_back(std::move(saved));
     }
     refresh_rows();
 }

@@ -12,8 +12,8 @@ namespace {
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
-/// A full screen of rows stays below half of what a frame may take.
-constexpr auto first_look = 100us;
+/// A tall screen full of rows takes a quarter of a frame.
+constexpr auto first_look = 50us;
 constexpr auto slice = 5ms;
 /// More than a screen shows; what was scrolled away asks again when it comes back.
 constexpr std::size_t most_waiting = 256;
