@@ -20,7 +20,7 @@ void SelectionIntake::reading_ended()
 {
     // Later: the caller stands in the middle of its own work, which the new selection would start again.
     if (waiting_)
-        QMetaObject::invokeMethod(this, &SelectionIntake::proceed, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, "proceed", Qt::QueuedConnection);
 }
 
 void SelectionIntake::take(int command_index, const QStringList& paths)
@@ -38,6 +38,7 @@ void SelectionIntake::proceed()
             reader->stop_reading();
     if (std::ranges::any_of(readers_, &SelectionReader::is_reading))
         return;
-    const Selection selection = *std::exchange(waiting_, std::nullopt);
+    const Selection selection = std::move(*waiting_);
+    waiting_.reset();
     emit selection_ready(selection.command_index, selection.paths);
 }

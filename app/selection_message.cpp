@@ -11,7 +11,8 @@ namespace {
 QStringList paths_of(const QJsonObject& message)
 {
     QStringList paths;
-    for (const QJsonValue& path : message[QLatin1String("paths")].toArray())
+    const QJsonArray array = message[QLatin1String("paths")].toArray();
+    for (const auto path : array)
         if (const QString text = path.toString(); !text.isEmpty())
             paths.append(text);
     return paths;
