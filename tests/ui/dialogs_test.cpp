@@ -11,10 +11,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QDialogButtonBox>
-#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
@@ -103,12 +103,13 @@ TEST(ChangeCommandNameDlg, KeepsBothTextsOnOk)
 
 TEST(ChecksumCompareDlg, ShowsBothChecksumsReadably)
 {
+    const QPalette before = QApplication::palette();
+    const QPalette dark(QColor(0x30, 0x30, 0x30));
+    QApplication::setPalette(dark);
     for (const bool equal : {true, false}) {
         const ChecksumComparison comparison{u"ABCD", equal ? u"abcd" : u"<b>1", "CRC32", equal};
         ChecksumCompareDlg dialog(comparison);
-        QPalette dark;
-        dark.setColor(QPalette::WindowText, Qt::white);
-        dialog.setPalette(dark);
+        ASSERT_NE(dialog.palette().color(QPalette::WindowText), QColor(Qt::black));
         EXPECT_EQ(label_texts(dialog),
                   equal ? "Clipboard:\nABCD\nFile:\nabcd\nMATCH" : "Clipboard:\nABCD\nFile:\n<b>1\nNO MATCH");
         for (const QLabel* label : dialog.findChildren<QLabel*>())
@@ -119,6 +120,7 @@ TEST(ChecksumCompareDlg, ShowsBothChecksumsReadably)
         dialog.findChild<QDialogButtonBox*>()->button(pressed)->click();
         EXPECT_EQ(dialog.result(), equal ? QDialog::Accepted : QDialog::Rejected);
     }
+    QApplication::setPalette(before);
 }
 
 TEST(CompareWithClipboard, ReadsTextAloneAndLeavesItThere)
@@ -129,7 +131,7 @@ TEST(CompareWithClipboard, ReadsTextAloneAndLeavesItThere)
         boost::json::parse(
             R"({"name": "sums", "separator": "", "fileParts": [{"item-type": "checksum", "checksum-type": "crc32"}]})")
             .as_object());
-    QClipboard& clipboard = *QGuiApplication::clipboard();
+    QClipboard& clipboard = *QApplication::clipboard();
     clipboard.setText("CRC32: 0xCBF43926");
     const auto comparison = compare_with_clipboard(command, set, u"cbf43926");
     ASSERT_TRUE(comparison);

@@ -38,10 +38,11 @@ QSize ExpandableContainerWidget::sizeHint() const
 
 void ExpandableContainerWidget::animate_to_new_height()
 {
-    if (!content_ || content_->sizeHint().height() == current_height_)
+    const int height = content_ ? content_->sizeHint().height() : current_height_;
+    if (height == current_height_)
         return;
     fit_content(content_->width());
-    animation_ = {.from = current_height_, .to = content_->height(), .start = animation_clock()};
+    animation_ = {.from = current_height_, .to = height, .start = animation_clock()};
     timer_.start();
 }
 

@@ -2,7 +2,6 @@
 
 #include "ui/widgets/height_animation.h"
 
-#include <QPointer>
 #include <QTimer>
 #include <QWidget>
 
@@ -15,7 +14,8 @@ class ExpandableContainerWidget : public QWidget
 public:
     explicit ExpandableContainerWidget(QWidget* parent = nullptr);
 
-    /// Becomes the content's parent and takes its height at once.
+    /// Becomes the content's parent and takes its height at once. The content must not be deleted before the
+    /// container.
     void set_content(QWidget* content);
     /// Takes the content's height at once; an animation under way goes on.
     void take_content_height();
@@ -35,7 +35,7 @@ private:
     void fit_content(int content_width);
 
     int current_height_ = 0;
-    QPointer<QWidget> content_;
+    QWidget* content_ = nullptr;
     QTimer timer_;
     HeightAnimation animation_;
 };

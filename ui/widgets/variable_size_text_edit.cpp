@@ -114,13 +114,19 @@ void VariableSizeTextEdit::focusOutEvent(QFocusEvent* event)
 
 bool VariableSizeTextEdit::focusNextPrevChild(bool next)
 {
-    return next ? QTextEdit::focusNextPrevChild(next) : QWidget::focusNextPrevChild(next);
+    return next ? QTextEdit::focusNextPrevChild(next) : leave(next);
+}
+
+bool VariableSizeTextEdit::leave(bool next)
+{
+    // QTextEdit keeps the focus for the sake of typed tabs.
+    return QWidget::focusNextPrevChild(next); // NOLINT(bugprone-parent-virtual-call)
 }
 
 void VariableSizeTextEdit::keyPressEvent(QKeyEvent* event)
 {
     if (event->modifiers() == Qt::ControlModifier && event->key() == Qt::Key_Tab)
-        QWidget::focusNextPrevChild(true);
+        leave(true);
     else if (is_undo_or_redo(*event))
         event->ignore();
     else

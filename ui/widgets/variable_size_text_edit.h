@@ -43,6 +43,7 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
+    bool leave(bool next);
     void show_plain();
     void show_marked();
 
