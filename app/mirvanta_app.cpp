@@ -55,13 +55,12 @@ QMargins default_margins(const QStyle& style)
 MirvantaApp::MirvantaApp(const MakeEditors& make_editors)
     : QDialog(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint),
       selected_items_(std::make_shared<MVItemsSet>()), menu_list_(*this), library_list_(*this),
-      stored_(menu_list_, library_list_), save_flow_(*this, stored_, menu_list_)
+      stored_(menu_list_, library_list_), save_flow_(*this, stored_, menu_list_),
+      tool_row_(new ToolRow(undo_stack_, this))
 {
     setWindowTitle(QCoreApplication::applicationName());
     load_stored_commands();
     start_intake();
-    // The first in the window and in the tab order.
-    tool_row_ = new ToolRow(undo_stack_, this);
     ui_ = std::make_unique<MainAppUi>(*this);
     connect_lists();
     lay_out();

@@ -102,7 +102,7 @@ private:
     MirvantaNamedPipeServer pipe_server_;
     std::vector<std::unique_ptr<CommandControllerBase>> editors_;
     CommandControllerBase* current_editor_ = nullptr;
+    ToolRow* tool_row_; ///< made before `ui_`, so that it comes first in the tab order
     // Goes first: its widgets use all of the above.
     std::unique_ptr<MainAppUi> ui_;
-    ToolRow* tool_row_ = nullptr;
 };
