@@ -6,6 +6,7 @@ class CommandControllerBase;
 class CommandsListController;
 class MVItemsSet;
 class QUndoStack;
+class SelectionReaders;
 
 /// What the interface asks of the application around it. Main thread only; outlives every widget and controller that
 /// was given a reference to it.
@@ -23,6 +24,9 @@ public:
 
     /// The selection that texts and show marks are made of. Never null, always the same object.
     virtual std::shared_ptr<const MVItemsSet> selected_items() const = 0;
+
+    /// Where whoever reads the selection on another thread registers, so that it doesn't change meanwhile.
+    virtual SelectionReaders& selection_readers() = 0;
 
     /// The editor that shows the active list's current command; null when no editor takes it.
     virtual CommandControllerBase* current_editor() = 0;

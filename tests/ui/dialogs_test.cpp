@@ -53,6 +53,8 @@ public:
 
     std::shared_ptr<const MVItemsSet> selected_items() const override { throw std::logic_error("selected_items"); }
 
+    SelectionReaders& selection_readers() override { throw std::logic_error("selection_readers"); }
+
     CommandControllerBase* current_editor() override { throw std::logic_error("current_editor"); }
 
     void duplicate_command_btn_pressed() override { throw std::logic_error("duplicate"); }

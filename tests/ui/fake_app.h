@@ -7,6 +7,8 @@
 
 #include <QUndoStack>
 
+#include <stdexcept>
+
 /// An application of two lists and an undo stack, without a window. What is called is written down.
 class FakeApp final : public AppServices
 {
@@ -20,6 +22,8 @@ public:
     QUndoStack& undo_stack() override { return stack; }
 
     std::shared_ptr<const MVItemsSet> selected_items() const override { return items; }
+
+    SelectionReaders& selection_readers() override { throw std::logic_error("nobody reads the selection here"); }
 
     CommandControllerBase* current_editor() override { return editor; }
 

@@ -1,0 +1,52 @@
+#include "app/initial_selection.h"
+
+#include "app/initial_command.h"
+#include "app/settings_keys.h"
+#include "store/last_command.h"
+#include "ui/lists/commands_list_controller.h"
+
+#include <QDebug>
+#include <QSettings>
+
+namespace {
+
+/// Nothing about the file may stop the start: at worst another command is current.
+std::shared_ptr<VellumarkCommand> last_command()
+{
+    try {
+        return read_last_command();
+    } catch (const std::exception& error) {
+        qDebug() << "The last command can't be read:" << error.what();
+        return nullptr;
+    }
+}
+
+void restore_row(CommandsListController& list, QLatin1StringView key)
+{
+    const int row = QSettings().value(key, 0).toInt();
+    list.select_without_undo(list.command_at(row) ? row : 0);
+}
+
+void append_left_over(CommandsListController& menu, const std::shared_ptr<VellumarkCommand>& command)
+{
+    command->set_from_previous_session(true);
+    CommandList commands = menu.commands();
+    commands.push_back(command);
+    menu.set_commands(std::move(commands));
+}
+
+}
+
+bool select_initial_command(CommandsListController& menu, CommandsListController& library)
+{
+    const auto last = last_command();
+    const InitialCommand initial = initial_command(last.get(), menu.commands(), library.commands());
+    if (initial.is_new)
+        append_left_over(menu, last);
+    (initial.in_library ? library : menu).select_without_undo(initial.row);
+    if (initial.in_library)
+        restore_row(menu, settings_keys::menu_row);
+    else
+        restore_row(library, settings_keys::library_row);
+    return initial.in_library;
+}

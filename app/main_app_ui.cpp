@@ -1,0 +1,142 @@
+#include "app/main_app_ui.h"
+
+#include "app/mirvanta_app.h"
+#include "app/settings_keys.h"
+#include "ui/dialogs/no_commands_widget.h"
+#include "ui/editor/command_controller_base.h"
+#include "ui/editor/command_main_widget_base.h"
+#include "ui/lists/commands_list_controller.h"
+#include "ui/lists/commands_list_widget.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QSettings>
+#include <QStackedLayout>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+MainAppUi::MainAppUi(MirvantaApp& app) : GripSplitter(Qt::Horizontal, &app), app_(app)
+{
+    addWidget(make_left_pane());
+    addWidget(make_right_pane());
+    setStretchFactor(1, 1);
+}
+
+QWidget* MainAppUi::make_left_pane()
+{
+    auto* pane = new QWidget;
+    auto* layout = new QVBoxLayout(pane);
+    layout->setContentsMargins(0, 0, 0, 0);
+    tabs_ = new QTabWidget;
+    tabs_->setDocumentMode(true);
+    // Both titles stay in sight, however long they are in another language.
+    tabs_->setUsesScrollButtons(false);
+    tabs_->addTab(make_list(app_.menu_list(), false), tr("Context Menu Commands"));
+    tabs_->addTab(make_list(app_.library_list(), true), tr("Commands Library"));
+    connect(tabs_, &QTabWidget::currentChanged, &app_, &MirvantaApp::active_tab_changed);
+    layout->addWidget(tabs_);
+
+    auto* row = new QHBoxLayout;
+    row->setContentsMargins(0, 0, 0, 6);
+    row->addStretch();
+    save_ = new QPushButton(tr("Save"));
+    connect(save_, &QPushButton::clicked, &app_, &MirvantaApp::save_commands_list);
+    row->addWidget(save_);
+    layout->addLayout(row);
+    return pane;
+}
+
+QWidget* MainAppUi::make_list(CommandsListController& controller, bool is_library)
+{
+    auto* list = new CommandsListWidget(app_, controller, is_library);
+    connect(list, &CommandsListWidget::move_commands, &app_, &MirvantaApp::move_commands_to_other_list);
+    connect(&controller, &CommandsListController::commands_list_changed, this, &MainAppUi::commands_list_changed);
+    return list;
+}
+
+QWidget* MainAppUi::make_right_pane()
+{
+    auto* pane = new QWidget;
+    auto* layout = new QVBoxLayout(pane);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(make_button_row());
+    pages_ = new QStackedLayout;
+    no_command_ = new NoCommandsWidget(app_);
+    pages_->addWidget(no_command_);
+    layout->addLayout(pages_);
+    return pane;
+}
+
+QWidget* MainAppUi::make_button_row()
+{
+    auto* row = new QWidget;
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    const auto add_button = [&](const QString& text, void (MirvantaApp::*pressed)()) {
+        auto* button = new QPushButton(text);
+        connect(button, &QPushButton::clicked, &app_, pressed);
+        layout->addWidget(button);
+        return button;
+    };
+    duplicate_ = add_button(tr("Duplicate"), &MirvantaApp::duplicate_command_btn_pressed);
+    add_button(tr("New"), &MirvantaApp::new_command_btn_pressed);
+    layout->addStretch();
+    delete_ = add_button(tr("Delete"), &MirvantaApp::delete_command_btn_pressed);
+    return row;
+}
+
+void MainAppUi::add_editor(CommandControllerBase& editor)
+{
+    CommandMainWidgetBase* page = editor.create_main_widget(pages_->parentWidget());
+    pages_->addWidget(page);
+    editor_pages_.push_back(page);
+}
+
+void MainAppUi::show_page(CommandControllerBase* editor)
+{
+    duplicate_->setEnabled(editor && editor->allows_duplicate());
+    if (editor) {
+        pages_->setCurrentWidget(editor->main_widget());
+        editor->main_widget()->page_shown();
+        return;
+    }
+    const CommandsListController& list = app_.active_list();
+    no_command_->set_state(&list == &app_.library_list(), list.is_empty());
+    pages_->setCurrentWidget(no_command_);
+}
+
+void MainAppUi::show_save_button(bool visible)
+{
+    save_->setVisible(visible);
+}
+
+void MainAppUi::enable_delete_button(bool enabled)
+{
+    delete_->setEnabled(enabled);
+}
+
+void MainAppUi::show_tab(int tab)
+{
+    tabs_->setCurrentIndex(tab);
+}
+
+void MainAppUi::focus_list()
+{
+    tabs_->currentWidget()->setFocus();
+}
+
+void MainAppUi::save_settings(QSettings& settings) const
+{
+    settings.setValue(settings_keys::horizontal_splitter, saveState());
+    settings.setValue(settings_keys::active_tab, tabs_->currentIndex());
+    for (const CommandMainWidgetBase* page : editor_pages_)
+        page->save_settings(settings);
+}
+
+void MainAppUi::restore_settings(QSettings& settings)
+{
+    restoreState(settings.value(settings_keys::horizontal_splitter).toByteArray());
+    const int tab = settings.value(settings_keys::active_tab, 0).toInt();
+    if (tab >= 0 && tab < tabs_->count())
+        tabs_->setCurrentIndex(tab);
+}

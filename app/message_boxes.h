@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QCoreApplication>
+
+#include <exception>
+
+class QWidget;
+
+/// The boxes that the application puts before the user. Each runs until it is answered, above `parent`.
+class MessageBoxes
+{
+    Q_DECLARE_TR_FUNCTIONS(MessageBoxes)
+
+public:
+    enum class SaveChoice { Save, DontSave, Cancel };
+
+    /// `sentence` tells what failed, `failure` why.
+    static void show_failure(QWidget* parent, const QString& sentence, const std::exception& failure);
+
+    static void show_menu_is_empty(QWidget* parent);
+
+    /// Whether a menu without the command that opens this program shall be saved.
+    static bool save_without_configure_command(QWidget* parent);
+
+    /// What becomes of unsaved changes; closing the box cancels.
+    static SaveChoice ask_about_changes(QWidget* parent);
+};

@@ -1,0 +1,108 @@
+#pragma once
+
+#include "app/mirvanta_named_pipe_server.h"
+#include "app/save_flow.h"
+#include "app/selection_intake.h"
+#include "app/stored_state.h"
+#include "ui/app_services.h"
+#include "ui/lists/commands_list_controller.h"
+
+#include <QDialog>
+#include <QUndoStack>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+class MainAppUi;
+class ToolRow;
+
+/// Makes the editors, in the order in which they are offered a command.
+using MakeEditors = std::function<std::vector<std::unique_ptr<CommandControllerBase>>(AppServices&)>;
+
+/// The program's window and all that it works on: the stored commands, the undo stack, the selection. Main thread
+/// only.
+class MirvantaApp final : public QDialog, public AppServices
+{
+    Q_OBJECT
+
+public:
+    /// Loads the stored commands and starts to listen for selections; a commands file that can't be used is shown to
+    /// the user before this returns. Without editors no command has a page.
+    explicit MirvantaApp(const MakeEditors& make_editors = {});
+    ~MirvantaApp() override;
+
+    CommandsListController& menu_list() override { return menu_list_; }
+
+    CommandsListController& library_list() override { return library_list_; }
+
+    CommandsListController& active_list() override { return active_list_ == 0 ? menu_list_ : library_list_; }
+
+    QUndoStack& undo_stack() override { return undo_stack_; }
+
+    std::shared_ptr<const MVItemsSet> selected_items() const override { return selected_items_; }
+
+    SelectionReaders& selection_readers() override { return intake_; }
+
+    CommandControllerBase* current_editor() override { return current_editor_; }
+
+    void reset_stored_commands() override;
+    void close_with_accept() override;
+
+    /// However the dialog is left, the window's state is kept.
+    void done(int result) override;
+
+public slots:
+    /// Saves what the user wants saved and runs the current command; the dialog then closes if nothing speaks
+    /// against.
+    void on_ok();
+    /// Closes the dialog. Nothing is saved, nothing is asked.
+    void on_cancel();
+    void on_help();
+    /// A selection has come: shows the window, and takes the selection once nobody reads the old one.
+    /// `command_index` is a row of the menu list, negative for none.
+    void on_context_menu_selected(int command_index, const QStringList& paths);
+    /// The current command's fields changed.
+    void current_command_index_changed();
+    /// The active list has another current command: finds its editor and shows its page.
+    void current_command_changed();
+    void duplicate_command_btn_pressed() override;
+    void new_command_btn_pressed();
+    void delete_command_btn_pressed();
+    /// True when the commands file was written. Whatever speaks against is shown to the user.
+    bool save_commands_list();
+    void on_about();
+    void active_tab_changed(int tab_index);
+    void move_commands_to_other_list();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void load_stored_commands();
+    void start_intake();
+    void connect_lists();
+    void lay_out();
+    void restore_window();
+    void add_editors(const MakeEditors& make_editors);
+    void show_list(int list);
+    void refresh_save_and_delete();
+    void take_selection(int command_index, const QStringList& paths);
+    void save_window_state() const;
+
+    std::shared_ptr<MVItemsSet> selected_items_;
+    CommandsListController menu_list_;
+    CommandsListController library_list_;
+    int active_list_ = 0; ///< 0 the menu list, 1 the library: the tab's number
+    StoredState stored_;
+    SaveFlow save_flow_;
+    QUndoStack undo_stack_;
+    SelectionIntake intake_;
+    MirvantaNamedPipeServer pipe_server_;
+    std::vector<std::unique_ptr<CommandControllerBase>> editors_;
+    CommandControllerBase* current_editor_ = nullptr;
+    ToolRow* tool_row_; ///< made before `ui_`, so that it comes first in the tab order
+    // Goes first: its widgets use all of the above.
+    std::unique_ptr<MainAppUi> ui_;
+};

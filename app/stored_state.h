@@ -1,0 +1,32 @@
+#pragma once
+
+#include "engine/filters/extensions_preset.h"
+
+#include <vector>
+
+class CommandsListController;
+struct StoredCommands;
+
+/// The stored commands and presets, between the commands file and the two lists that show them. Main thread only.
+class StoredState
+{
+public:
+    /// Empty until `load`.
+    StoredState(CommandsListController& menu, CommandsListController& library) : menu_(menu), library_(library) {}
+
+    /// Fills the lists and the presets from the commands file. Throws what `commands_file::load` throws; nothing has
+    /// changed then.
+    void load();
+
+    /// Writes the lists and the presets as they are; from then on they count as saved. Throws what
+    /// `commands_file::save` throws; nothing counts as saved then that didn't before.
+    void save();
+
+    bool has_unsaved_changes() const;
+
+private:
+    CommandsListController& menu_;
+    CommandsListController& library_;
+    std::vector<ExtensionsPreset> presets_; ///< the user's, as edited
+    std::vector<ExtensionsPreset> saved_presets_;
+};

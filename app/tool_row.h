@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QWidget>
+
+class QAction;
+class QUndoStack;
+
+/// The row of tools at the window's top: undo and redo on the left, "About" on the right.
+class ToolRow final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ToolRow(QUndoStack& stack, QWidget* parent = nullptr);
+
+    /// Both do nothing while there is nothing to undo or redo.
+    void undo();
+    void redo();
+
+signals:
+    /// A step was undone or redone, by whatever way the user chose here.
+    void stepped();
+    void about_requested();
+
+private:
+    QAction* take_step_action(QAction* action, const QKeySequence& keys);
+
+    QAction* undo_;
+    QAction* redo_;
+};

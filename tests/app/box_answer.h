@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QStringList>
+#include <QTimer>
+
+/// Waits for the modal boxes and dialogs that the next calls open, keeps what they say and presses a button in each:
+/// `buttons` in turn, the last one again and again. For "" the box is closed as by its frame.
+class BoxAnswer
+{
+public:
+    explicit BoxAnswer(QStringList buttons);
+
+    /// The titles, texts and buttons of the boxes that were answered, such as "Title|Text|Save, Cancel\n".
+    const std::string& seen() const { return seen_; }
+
+private:
+    void answer();
+
+    QStringList buttons_;
+    QTimer timer_;
+    std::string seen_;
+};

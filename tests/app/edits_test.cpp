@@ -1,0 +1,108 @@
+#include "app_test.h"
+
+#include <QAction>
+#include <QTest>
+
+#include <functional>
+
+namespace {
+
+TEST_F(AppTest, EditsTheActiveListInSingleSteps)
+{
+    struct Case {
+        bool in_library;
+        int current;
+        std::initializer_list<int> selected;
+        std::function<void()> act;
+        std::string_view text; ///< of the undo step; empty: nothing happens
+        std::string_view expected;
+    };
+
+    const auto pressing = [this](const char* name) { return [this, name] { press(name); }; };
+    const auto moving = [this] { app->move_commands_to_other_list(); };
+    const Case cases[] = {
+        {false, 1, {1}, pressing("New"), "New Command", "menu[A, B (Copy), *', More, Z] library[*L, M, N] save"},
+        {true, 2, {2}, pressing("New"), "New Command", "library[L, M, N, *'] menu[*A, B (Copy), More, Z] save"},
+        {false,
+         0,
+         {0},
+         pressing("Duplicate"),
+         "Duplicate Command",
+         "menu[A, *A (Copy)', B (Copy), More, Z] library[*L, M, N] save"},
+        {false,
+         1,
+         {1},
+         pressing("Duplicate"),
+         "Duplicate Command",
+         "menu[A, B (Copy), *B (Copy 2)', More, Z] library[*L, M, N] save"},
+        {false, 2, {2}, pressing("Delete"), "Delete Command", "menu[A, B (Copy), *Z] library[*L, M, N] save"},
+        {false, 3, {0, 3}, pressing("Delete"), "Delete Command", "menu[B (Copy), *More] library[*L, M, N] save"},
+        {false, 0, {0, 1}, moving, "Move Command", "menu[*More, Z] library[L, M, N, *A, B (Copy)] save"},
+        {false, 3, {3}, moving, "Move Command", "menu[A, B (Copy), *More] library[L, M, N, *Z] save"},
+        {false, 3, {2, 3}, moving, "", ""},
+        {false, 0, {}, moving, "", ""},
+        {true, 1, {0, 1, 2}, moving, "Move Command", "library[] menu[A, B (Copy), More, Z, *L, M, N] save"},
+    };
+    store("A, B (Copy), More, Z", "L, M, N");
+    for (const Case& c : cases) {
+        open_again();
+        show_tab(c.in_library ? 1 : 0);
+        app->active_list().select_without_undo(c.current);
+        select_rows(app->active_list(), c.selected);
+        const std::string before = state();
+        c.act();
+        EXPECT_EQ(app->undo_stack().undoText().toStdString(), c.text);
+        EXPECT_EQ(state(), c.text.empty() ? before : c.expected);
+        if (c.text.empty())
+            continue;
+        app->undo_stack().undo();
+        EXPECT_EQ(state(), before);
+        app->undo_stack().redo();
+        EXPECT_EQ(state(), c.expected);
+    }
+}
+
+TEST_F(AppTest, DuplicateTakesTheEditsAlong)
+{
+    store("A, More", "A (Copy)");
+    open();
+    editor->change_separator(u"; ");
+    EXPECT_EQ(state(), "menu[*A', More] library[*A (Copy)] save");
+    editor->calls.clear();
+    press("Duplicate");
+    EXPECT_EQ(state(), "menu[A, *A (Copy 2)', More] library[*A (Copy)] save");
+    EXPECT_EQ(editor->current->separator(), u"; ");
+    EXPECT_EQ(editor->calls, "focus ");
+    const auto source = std::dynamic_pointer_cast<VellumarkCommand>(app->menu_list().command_at(0));
+    EXPECT_EQ(source->separator(), u"");
+    app->undo_stack().undo();
+    EXPECT_EQ(state(), "menu[*A', More] library[*A (Copy)] save");
+}
+
+TEST_F(AppTest, UndoAndRedoComeByToolAndKey)
+{
+    store("A, More");
+    open();
+    press("New");
+    editor->calls.clear();
+    const std::string with_new = state();
+    for (const auto& [key, expected] : {std::pair{Qt::Key_Z, std::string("menu[*A, More] library[]")},
+                                        {Qt::Key_Z, "menu[*A, More] library[]"},
+                                        {Qt::Key_Y, with_new}}) {
+        QTest::keyClick(app.get(), key, Qt::ControlModifier);
+        EXPECT_EQ(state(), expected);
+    }
+    EXPECT_EQ(editor->calls, "refresh refresh ");
+    const auto action_texts = [this] {
+        std::string texts;
+        for (const QAction* action : app->findChildren<QAction*>())
+            if (!action->shortcut().isEmpty() && action->shortcutContext() == Qt::ApplicationShortcut)
+                texts += action->text().toStdString() + (action->isEnabled() ? "+" : "-");
+        return texts;
+    };
+    EXPECT_EQ(action_texts(), "Undo New Command+Redo-");
+    app->undo_stack().undo();
+    EXPECT_EQ(action_texts(), "Undo-Redo New Command+");
+}
+
+}

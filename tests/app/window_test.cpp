@@ -1,0 +1,164 @@
+#include "app_test.h"
+#include "box_answer.h"
+
+#include "app/appearance.h"
+#include "engine/items/mv_items_set.h"
+#include "ui/colours.h"
+#include "ui/lists/commands_table_view.h"
+#include "ui/selection_reader.h"
+#include "ui/text.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+#include <QUrl>
+
+namespace {
+
+TEST_F(AppTest, TakesSelections)
+{
+    struct Case {
+        int tab, index;
+        std::vector<std::string> names;
+        std::string_view expected;
+        std::size_t items;
+    };
+
+    const Case cases[] = {
+        {0, 2, {"a.txt", "b.txt"}, "menu[A, B, *C] library[L]", 2},
+        {1, 1, {"a.txt"}, "menu[A, *B, C] library[L]", 1},
+        {1, -1, {"a.txt"}, "library[*L] menu[*A, B, C]", 1},
+        {1, 0, {"a.txt"}, "menu[*A, B, C] library[L]", 1},
+        {0, 99, {"missing", "b.txt"}, "menu[*A, B, C] library[L]", 1},
+    };
+    folder.write("a.txt");
+    folder.write("b.txt");
+    store("A, B, C", "L");
+    for (const Case& c : cases) {
+        open_again();
+        show_tab(c.tab);
+        editor->calls.clear();
+        QStringList paths;
+        for (const std::string& name : c.names)
+            paths += to_qstring(folder.path(name));
+        app->on_context_menu_selected(c.index, paths);
+        std::string expected(c.expected);
+        if (!expected.starts_with("library"))
+            expected.insert(expected.find("[L]") + 1, "*");
+        EXPECT_EQ(state(), expected);
+        EXPECT_EQ(app->selected_items()->items().size(), c.items);
+        EXPECT_TRUE(editor->calls.ends_with("refresh "));
+    }
+}
+
+/// A text run that ends some time after it was asked to.
+class TextRun final : public SelectionReader
+{
+public:
+    explicit TextRun(SelectionReaders& readers) : readers_(readers) { readers_.add_reader(*this); }
+
+    ~TextRun() { readers_.remove_reader(*this); }
+
+    bool is_reading() const override { return reads_; }
+
+    void stop_reading() override
+    {
+        QTimer::singleShot(20, [this] {
+            reads_ = false;
+            readers_.reading_ended();
+        });
+    }
+
+private:
+    SelectionReaders& readers_;
+    bool reads_ = true;
+};
+
+TEST_F(AppTest, LeavesTheSelectionAloneWhileItIsRead)
+{
+    store("A, B, C");
+    folder.write("a.txt");
+    folder.write("b.txt");
+    open();
+    const TextRun run(app->selection_readers());
+    app->on_context_menu_selected(1, {to_qstring(folder.path("a.txt"))});
+    app->on_context_menu_selected(2, {to_qstring(folder.path("a.txt")), to_qstring(folder.path("b.txt"))});
+    EXPECT_TRUE(run.is_reading());
+    EXPECT_EQ(state(), "menu[*A, B, C] library[]");
+    EXPECT_TRUE(app->selected_items()->items().empty());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !app->selected_items()->items().empty(); }, 5000));
+    EXPECT_EQ(app->selected_items()->items().size(), 2U);
+    EXPECT_EQ(state(), "menu[A, B, *C] library[]");
+}
+
+TEST_F(AppTest, SwallowsReturnWhereTheDialogHasNoFocus)
+{
+    store("A, More");
+    open();
+    app->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(app.get()));
+    auto* list = app->findChild<CommandsTableView*>();
+    list->setFocus();
+    ASSERT_TRUE(list->hasFocus());
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        QTest::keyClick(list, key);
+        EXPECT_TRUE(app->isVisible());
+    }
+    EXPECT_EQ(editor->calls, "");
+    app->setFocus();
+    QTest::keyClick(app.get(), Qt::Key_Return);
+    EXPECT_EQ(editor->calls, "run ");
+}
+
+class Browser : public QObject
+{
+    Q_OBJECT
+
+public slots:
+
+    void open(const QUrl& url) { opened = url.toString().toStdString(); }
+
+public:
+    std::string opened;
+};
+
+TEST_F(AppTest, ShowsHelpAndAbout)
+{
+    store("A, More");
+    open();
+    Browser browser;
+    QDesktopServices::setUrlHandler("https", &browser, "open");
+    press("Help");
+    QDesktopServices::unsetUrlHandler("https");
+    EXPECT_EQ(browser.opened, "https://vellumark.example/vellumark/help/4.7/index.html?configure.html");
+    const BoxAnswer box({"OK"});
+    for (QToolButton* tool : app->findChildren<QToolButton*>())
+        if (tool->text() == "About")
+            tool->click();
+    EXPECT_EQ(box.seen(), "About Vellumark||OK\n");
+}
+
+TEST(Appearance, FollowsTheDesktop)
+{
+    const QPalette before = QApplication::palette();
+    auto* application = qobject_cast<QApplication*>(QCoreApplication::instance());
+    {
+        const Appearance appearance(*application);
+        for (const bool dark : {true, false, true}) {
+            QPalette palette = before;
+            palette.setColor(QPalette::Window, dark ? Qt::black : Qt::white);
+            palette.setColor(QPalette::WindowText, dark ? Qt::white : Qt::black);
+            QApplication::setPalette(palette);
+            EXPECT_EQ(colours::dark_mode(), dark);
+        }
+        QApplication::setPalette(before);
+        EXPECT_FALSE(colours::dark_mode());
+    }
+    application->setStyleSheet({});
+}
+
+}
+
+#include "window_test.moc"
