@@ -110,11 +110,12 @@ TEST_F(CommandsListUse, EditInPlace)
         EXPECT_EQ(view.findChild<QLineEdit*>(), nullptr);
         EXPECT_TRUE(view.hasFocus());
     };
-    type("New");
-    EXPECT_EQ(menu_shown(), "A B >New* D Save");
     const int steps = app.stack.index();
     type("New");
-    EXPECT_EQ(app.stack.index(), steps);
+    EXPECT_EQ(menu_shown(), "A B >New* D Save");
+    EXPECT_EQ(app.stack.index(), steps + 1) << "the keyboard's way back into the list is no step";
+    type("New");
+    EXPECT_EQ(app.stack.index(), steps + 1);
     key(Qt::Key_F2); // and the window goes with the edit open
     QTest::keyClicks(view.findChild<QLineEdit*>(), "Last");
 }
@@ -126,6 +127,7 @@ TEST_F(CommandsListUse, AChangeKeepsThePlace)
         names << QString::number(i);
     app.menu.set_commands(commands_named(names));
     app.menu.set_current_row(100);
+    QCoreApplication::processEvents();
     const int place = view.verticalScrollBar()->value();
     ASSERT_GT(place, 0);
     app.menu.rename(100, u"New", u"");

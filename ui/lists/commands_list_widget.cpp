@@ -43,6 +43,12 @@ void CommandsListWidget::connect_view()
             &CommandsListWidget::follow_controller);
     connect(&controller_.selection(), &QItemSelectionModel::currentRowChanged, this,
             &CommandsListWidget::follow_view);
+    // An open edit gives the focus back to the view meanwhile, which takes the first row for want of another.
+    connect(&controller_.model(), &QAbstractItemModel::modelAboutToBeReset, this, [this] { syncing_ = true; });
+    connect(&controller_.model(), &QAbstractItemModel::modelReset, this, [this] {
+        controller_.selection().clear();
+        syncing_ = false;
+    });
     connect(view_, &CommandsTableView::delete_selected, &controller_, &CommandsListController::delete_selected);
     connect(view_, &CommandsTableView::show_context_menu, this, &CommandsListWidget::show_menu);
     connect(view_, &CommandsTableView::clicked, this, &CommandsListWidget::cell_clicked);
@@ -58,12 +64,14 @@ void CommandsListWidget::follow_controller()
     const QScopedValueRollback guard(syncing_, true);
     CommandsSelectionModel& selection = controller_.selection();
     const int row = controller_.current_index();
-    if (row < 0)
+    if (row < 0) {
         selection.clear();
-    // A row that is current already keeps the others that are selected with it.
-    else if (selection.currentIndex().row() != row)
+    } else if (selection.currentIndex().row() != row) {
+        // A row that is current already keeps its place under the mouse and the others that are selected with it.
         selection.setCurrentIndex(controller_.model().index(row, CommandsListModel::NameColumn),
                                   QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        view_->show_row(selection.currentIndex());
+    }
 }
 
 void CommandsListWidget::follow_view(const QModelIndex& current)

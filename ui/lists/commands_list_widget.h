@@ -49,6 +49,6 @@ private:
     CommandsListController& controller_;
     CommandsTableView* view_;
     bool is_library_;
-    /// On while the view follows the controller, so that the step isn't taken for the user's.
+    /// On while the view follows the controller or gets new rows, so that its steps aren't taken for the user's.
     bool syncing_ = false;
 };

@@ -57,6 +57,12 @@ void CommandsTableView::fit_rows_to_font()
     verticalHeader()->setDefaultSectionSize(std::max(fontMetrics().height() + 8, 24));
 }
 
+void CommandsTableView::show_row(const QModelIndex& index)
+{
+    executeDelayedItemsLayout();
+    scrollTo(index);
+}
+
 QPoint CommandsTableView::cell_centre(const QModelIndex& index) const
 {
     return viewport()->mapToGlobal(visualRect(index).center());
@@ -91,7 +97,7 @@ void CommandsTableView::show_menu_of_current_row()
 {
     if (!currentIndex().isValid())
         return;
-    scrollTo(currentIndex());
+    show_row(currentIndex());
     const QModelIndex button = currentIndex().siblingAtColumn(CommandsListModel::MenuColumn);
     emit show_context_menu(cell_centre(button), button.row());
 }

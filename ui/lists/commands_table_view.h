@@ -13,6 +13,9 @@ public:
     /// `model` has the columns of a CommandsListModel.
     void setModel(QAbstractItemModel* model) override;
 
+    /// Scrolls no further than it takes to see the row, also right after the rows were replaced.
+    void show_row(const QModelIndex& index);
+
     /// The middle of a cell, in global coordinates.
     QPoint cell_centre(const QModelIndex& index) const;
 
