@@ -46,7 +46,7 @@ public:
                 changed_ = changed_ || is_changed();
             reads_ = false;
             QMetaObject::invokeMethod(
-                &main_, [this] { readers_.reading_ended(); }, Qt::QueuedConnection);
+                &main_, [&readers = readers_] { readers.reading_ended(); }, Qt::QueuedConnection);
         });
     }
 
