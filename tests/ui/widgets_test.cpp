@@ -211,6 +211,7 @@ public:
     int paints = 0;
 };
 
+/// What QWidget does at both events; our widgets rely on it.
 TEST(ColourScheme, MakesWidgetsPaintAnew)
 {
     GripSplitter splitter(Qt::Horizontal);

@@ -1,7 +1,6 @@
 #include "ui/widgets/disclosure_control.h"
 
 #include "ui/widgets/accessible_widgets.h"
-#include "ui/widgets/scheme_change.h"
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -51,11 +50,4 @@ void DisclosureControl::keyPressEvent(QKeyEvent* event)
         activate();
     else if (!pressed)
         QWidget::keyPressEvent(event);
-}
-
-void DisclosureControl::changeEvent(QEvent* event)
-{
-    QWidget::changeEvent(event);
-    if (is_scheme_change(*event))
-        update();
 }

@@ -22,7 +22,6 @@ protected:
 
     void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
 private:
     bool expanded_ = false;

@@ -1,7 +1,6 @@
 #include "ui/widgets/grip_splitter_handle.h"
 
 #include "ui/colours.h"
-#include "ui/widgets/scheme_change.h"
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -79,13 +78,6 @@ void GripSplitterHandle::keyPressEvent(QKeyEvent* event)
         QSplitterHandle::keyPressEvent(event);
     else
         moveSplitter((orientation() == Qt::Horizontal ? x() : y()) + step);
-}
-
-void GripSplitterHandle::changeEvent(QEvent* event)
-{
-    QSplitterHandle::changeEvent(event);
-    if (is_scheme_change(*event))
-        update();
 }
 
 void GripSplitterHandle::set_hovered(bool hovered)

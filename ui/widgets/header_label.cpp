@@ -2,7 +2,6 @@
 
 #include "ui/colours.h"
 #include "ui/widgets/accessible_widgets.h"
-#include "ui/widgets/scheme_change.h"
 #include "ui/widgets/title_painting.h"
 
 #include <QPainter>
@@ -24,11 +23,4 @@ void HeaderLabel::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.fillRect(rect(), colours::title_bar_background());
     draw_bar_title(painter, rect(), title_);
-}
-
-void HeaderLabel::changeEvent(QEvent* event)
-{
-    QWidget::changeEvent(event);
-    if (is_scheme_change(*event))
-        update();
 }

@@ -2,6 +2,8 @@
 
 #include <QTextEdit>
 
+#include <string>
+
 /// The height of a text edit for a document that high, in pixels.
 int fitted_height(double document_height);
 
