@@ -81,6 +81,8 @@ int start_once(int argc, char* argv[], double start)
     QApplication::exec();
     steps.done("6 painting it");
     Steps(start).done("7 all");
+    if (window.menu_list().commands().size() != commands)
+        return 2;
     const double before = now();
     commands_file::load();
     Steps(before).done("8 of step 4, reading the commands file");
@@ -108,6 +110,8 @@ std::map<std::string, std::vector<double>> measure()
         process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         process.start(QCoreApplication::applicationFilePath(), {QString::number(now(), 'f', 6)});
         process.waitForFinished();
+        if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
+            return {};
         // The first run warms the caches.
         for (const QByteArray& line : process.readAllStandardOutput().trimmed().split('\n'))
             if (const auto fields = line.split('\t'); run > 0 && fields.size() == 2)

@@ -35,6 +35,8 @@ TEST_F(AppTest, SelectsTheInitialCommand)
         QSettings settings;
         settings.setValue("VKMenuCommandsSelectedIndex", c.menu_row);
         settings.setValue("VKLibraryCommandsSelectedIndex", c.library_row);
+        // The initial command's list shows, whichever tab did.
+        settings.setValue("VKActiveTab", c.library_row);
         open_again();
         EXPECT_EQ(state(), c.expected);
         EXPECT_EQ(editor->current, app->active_list().current_command()->type() == CommandType::Vellumark

@@ -1,6 +1,7 @@
 #include "app_test.h"
 
 #include "ui/dialogs/change_command_name_dlg.h"
+#include "ui/lists/commands_list_model.h"
 #include "ui/lists/commands_list_widget.h"
 
 #include <QAction>
@@ -130,6 +131,13 @@ TEST_F(AppTest, ShowsNothingUntranslatedAndNothingCut)
     for (const CommandsListWidget* list : app->findChildren<CommandsListWidget*>())
         for (const ListMenuEntry& entry : const_cast<CommandsListWidget*>(list)->menu_entries(0))
             EXPECT_TRUE(entry.text.contains(opening)) << entry.text.toStdString();
+
+    using Model = CommandsListModel;
+    for (const auto& [column, role] : {std::pair{Model::MarkColumn, Qt::ToolTipRole},
+                                       {Model::NameColumn, Qt::ToolTipRole},
+                                       {Model::NameColumn, Qt::DisplayRole},
+                                       {Model::NameColumn, Qt::AccessibleTextRole}})
+        EXPECT_TRUE(app->menu_list().model().index(1, column).data(role).toString().contains(opening)) << role;
 
     EXPECT_EQ(findings_of_dialog([this] { app->on_about(); }), "");
     EXPECT_EQ(findings_of_dialog([this] { app->on_ok(); }), "");
