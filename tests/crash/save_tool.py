@@ -23,8 +23,7 @@ class SaveTest(unittest.TestCase):
         os.makedirs(self.folder)
         self.file = self.folder + "/VKCmds.json"
         self.temporary = self.file + "+"
-        # A leak check can't run under a tracer.
-        self.environment = os.environ | {"XDG_CONFIG_HOME": self.root, "ASAN_OPTIONS": "detect_leaks=0"}
+        self.environment = os.environ | {"XDG_CONFIG_HOME": self.root}
 
     def start(self, *arguments, under=(), **options):
         pipes = {"stdout": subprocess.PIPE, "stderr": subprocess.PIPE, "env": self.environment}
