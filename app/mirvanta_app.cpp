@@ -89,6 +89,7 @@ void MirvantaApp::start_intake()
 {
     connect(&pipe_server_, &MirvantaNamedPipeServer::context_menu_selected, this,
             &MirvantaApp::on_context_menu_selected);
+    connect(&probe_, &PathProbe::answered, &intake_, &SelectionIntake::take);
     connect(&intake_, &SelectionIntake::selection_ready, this, &MirvantaApp::take_selection);
     try {
         pipe_server_.start();
@@ -209,7 +210,7 @@ void MirvantaApp::on_context_menu_selected(int command_index, const QStringList&
     setWindowState(windowState() & ~Qt::WindowMinimized);
     raise();
     activateWindow();
-    intake_.take(command_index, paths);
+    probe_.start(command_index, paths);
 }
 
 void MirvantaApp::take_selection(int command_index, const QStringList& paths)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/mirvanta_named_pipe_server.h"
+#include "app/path_probe.h"
 #include "app/save_flow.h"
 #include "app/selection_intake.h"
 #include "app/stored_state.h"
@@ -59,7 +60,8 @@ public slots:
     /// Closes the dialog. Nothing is saved, nothing is asked.
     void on_cancel();
     void on_help();
-    /// A selection has come: shows the window, and takes the selection once nobody reads the old one.
+    /// A selection has come: shows the window, and takes the selection once its paths answer and nobody reads the old
+    /// one.
     /// `command_index` is a row of the menu list, negative for none.
     void on_context_menu_selected(int command_index, const QStringList& paths);
     /// The current command's fields changed.
@@ -98,6 +100,7 @@ private:
     StoredState stored_;
     SaveFlow save_flow_;
     QUndoStack undo_stack_;
+    PathProbe probe_;
     SelectionIntake intake_;
     MirvantaNamedPipeServer pipe_server_;
     std::vector<std::unique_ptr<CommandControllerBase>> editors_;

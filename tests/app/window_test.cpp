@@ -44,12 +44,12 @@ TEST_F(AppTest, TakesSelections)
         for (const std::string& name : c.names)
             paths += to_qstring(folder.path(name));
         app->on_context_menu_selected(c.index, paths);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return editor->calls.ends_with("refresh "); }, 60'000));
         std::string expected(c.expected);
         if (!expected.starts_with("library"))
             expected.insert(expected.find("[L]") + 1, "*");
         EXPECT_EQ(state(), expected);
         EXPECT_EQ(app->selected_items()->items().size(), c.items);
-        EXPECT_TRUE(editor->calls.ends_with("refresh "));
     }
 }
 
@@ -83,13 +83,14 @@ TEST_F(AppTest, LeavesTheSelectionAloneWhileItIsRead)
     folder.write("b.txt");
     open();
     const TextRun run(app->selection_readers());
+    const auto is_waiting = [this] { return app->selection_readers().is_selection_waiting(); };
     app->on_context_menu_selected(1, {to_qstring(folder.path("a.txt"))});
+    EXPECT_TRUE(QTest::qWaitFor(is_waiting, 60'000));
     app->on_context_menu_selected(2, {to_qstring(folder.path("a.txt")), to_qstring(folder.path("b.txt"))});
     EXPECT_TRUE(run.is_reading());
     EXPECT_EQ(state(), "menu[*A, B, C] library[]");
     EXPECT_TRUE(app->selected_items()->items().empty());
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !app->selected_items()->items().empty(); }, 5000));
-    EXPECT_EQ(app->selected_items()->items().size(), 2U);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return app->selected_items()->items().size() == 2; }, 60'000));
     EXPECT_EQ(state(), "menu[A, B, *C] library[]");
 }
 
