@@ -118,8 +118,8 @@ TEST(FilmProperties, Years)
 
     for (const Row& row :
          {Row{u"2024", 2024}, Row{u"2024-03-05", 2024}, Row{u"20240305", 2024}, Row{u"UTC 2024-03-05 06:07:08", 2024},
-          Row{u"2024/2025", 2024}, Row{u"202403051", 0}, Row{u"20243", 0}, Row{u"5.3.2024", 0}, Row{u"24", 0},
-          Row{u"0000", 0}, Row{u"May 2024", 0}, Row{u"", 0}})
+          Row{u"2024/2025", 2024}, Row{u"201905", 2019}, Row{u"20190512103000", 2019}, Row{u"5.3.2024", 0},
+          Row{u"24", 0}, Row{u"0000", 0}, Row{u"May 2024", 0}, Row{u"", 0}})
         EXPECT_EQ(platform::leading_year(row.text).value_or(0), row.year)
             << std::string(row.text.begin(), row.text.end());
     EXPECT_EQ(platform::leading_number(u"3/12"), 3U);

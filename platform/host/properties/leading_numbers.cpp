@@ -25,12 +25,12 @@ std::optional<std::uint64_t> leading_number(std::u16string_view text)
 
 std::optional<std::uint64_t> leading_year(std::u16string_view text)
 {
-    constexpr std::size_t year = 4, date = 8;
+    constexpr std::size_t year = 4;
     constexpr std::u16string_view zone = u"UTC ";
     if (text.starts_with(zone))
         text.remove_prefix(zone.size());
     const std::u16string_view digits = leading_digits(text);
-    if (digits.size() != year && digits.size() != date)
+    if (digits.size() < year)
         return {};
     const auto number = leading_number(digits.substr(0, year));
     return number == 0 ? std::nullopt : number;

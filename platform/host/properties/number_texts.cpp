@@ -28,7 +28,8 @@ std::u16string size_text(double bytes)
     for (; bytes >= (unit == 0 ? step : widest) && unit + 1 < units.size(); ++unit)
         bytes /= step;
     const int decimals = unit == 0 || bytes >= 99.95 ? 0 : bytes >= 9.995 ? 1 : 2;
-    return number_text(bytes, decimals) + u" " + units[unit];
+    const bool is_one_byte = unit == 0 && bytes == 1;
+    return number_text(bytes, decimals) + u" " + (is_one_byte ? u"byte" : units[unit]);
 }
 
 std::u16string duration_text(std::int64_t ticks)
