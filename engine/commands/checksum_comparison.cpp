@@ -21,7 +21,7 @@ bool is_checksum(std::u16string_view text, const ChecksumRow& row)
 
 bool in_run(char16_t unit)
 {
-    return is_alphanumeric(unit) && to_lower(unit) != u'x';
+    return (is_ascii_digit(unit) || is_ascii_letter(unit)) && to_lower(unit) != u'x';
 }
 
 /// Empty when there is none.

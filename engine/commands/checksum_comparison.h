@@ -20,8 +20,8 @@ struct ChecksumComparison {
 using ReadClipboard = std::function<std::optional<std::u16string>()>;
 
 /// Applies when `command` writes nothing but one checksum, one file is selected and `text` is its checksum. The
-/// first run of letters and digits ("x" ends a run, so that "0x" is passed over) in the clipboard's text that is as
-/// long and all hexadecimal is the copied one. Empty when anything of this is not so; the clipboard is read only
-/// when it can matter.
+/// first run of ASCII letters and digits ("x" ends a run, so that "0x" is passed over) in the clipboard's text that
+/// is as long and all hexadecimal is the copied one. Empty when anything of this is not so; the clipboard is read
+/// only when it can matter.
 std::optional<ChecksumComparison> compare_checksum(const VellumarkCommand& command, const MVItemsSet& selection,
                                                    std::u16string_view text, const ReadClipboard& read_clipboard);

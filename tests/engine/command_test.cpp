@@ -192,7 +192,8 @@ TEST(ChecksumComparison, FindsTheCopiedChecksum)
     };
     const std::vector<std::pair<std::u16string, std::string>> cases{{u"0xCBF43926", "CBF43926 = CRC32"},
                                                                     {u"file: 12345678, cbf43926", "12345678 # CRC32"},
-                                                                    {u"cbf439261 \u00E9cbf43926", "none"},
+                                                                    {u"cbf439261 gcbf43926", "none"},
+                                                                    {u"\u00E9cbf43926\u00E9", "cbf43926 = CRC32"},
                                                                     {u"ghijklmn\tcbf43926\n", "cbf43926 = CRC32"},
                                                                     {u"cbf4392", "none"},
                                                                     {u"", "none"}};
@@ -200,6 +201,13 @@ TEST(ChecksumComparison, FindsTheCopiedChecksum)
         EXPECT_EQ(compared(command, u"cbf43926", clipboard), expected) << to_utf8(clipboard);
     EXPECT_EQ(compared(command, u"(cbf4392)", u"cbf43926"), "none");
     EXPECT_EQ(compared(make_command("{}"), u"cbf43926", u"cbf43926"), "none");
+    const auto selecting = [&](std::vector<std::u16string> paths) {
+        const auto same = [] { return std::optional<std::u16string>(u"cbf43926"); };
+        return compare_checksum(command, MVItemsSet(paths), u"cbf43926", same).has_value();
+    };
+    EXPECT_TRUE(selecting({folder.path("file")}));
+    EXPECT_FALSE(selecting({folder.path("file"), folder.path("file")}));
+    EXPECT_FALSE(selecting({folder.path()}));
     const auto no_clipboard = [] { return std::optional<std::u16string>(); };
     EXPECT_FALSE(compare_checksum(command, set, u"cbf43926", no_clipboard));
 }

@@ -1,0 +1,186 @@
+#include "engine/commands/vellumark_command.h"
+#include "engine/items/mv_items_set.h"
+#include "store/mv_command_builtin.h"
+#include "support/temp_folder.h"
+#include "ui/app_services.h"
+#include "ui/dialogs/about_dlg.h"
+#include "ui/dialogs/change_command_name_dlg.h"
+#include "ui/dialogs/checksum_compare_dlg.h"
+#include "ui/dialogs/no_commands_widget.h"
+#include "ui/text.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QUrl>
+
+#include <stdexcept>
+
+namespace {
+
+/// The texts of the labels in the order of their making, one a line.
+QString label_texts(const QWidget& widget)
+{
+    QStringList texts;
+    for (const QLabel* label : widget.findChildren<QLabel*>())
+        if (!label->text().isEmpty())
+            texts += label->text();
+    return texts.join('\n');
+}
+
+/// Counts resets; nothing else may be asked of it.
+class ResetCounter final : public AppServices
+{
+public:
+    int resets = 0;
+
+    CommandsListController& menu_list() override { throw std::logic_error("menu_list"); }
+
+    CommandsListController& library_list() override { throw std::logic_error("library_list"); }
+
+    CommandsListController& active_list() override { throw std::logic_error("active_list"); }
+
+    QUndoStack& undo_stack() override { throw std::logic_error("undo_stack"); }
+
+    std::shared_ptr<const MVItemsSet> selected_items() const override { throw std::logic_error("selected_items"); }
+
+    CommandControllerBase* current_editor() override { throw std::logic_error("current_editor"); }
+
+    void duplicate_command_btn_pressed() override { throw std::logic_error("duplicate"); }
+
+    void reset_stored_commands() override { ++resets; }
+
+    void close_with_accept() override { throw std::logic_error("close"); }
+};
+
+TEST(NoCommandsWidget, SaysWhyAndOffersTheDefaults)
+{
+    ResetCounter app;
+    NoCommandsWidget page(app);
+    const auto* button = page.findChild<QPushButton*>();
+    const auto state = [&](bool is_library, bool is_empty) {
+        page.set_state(is_library, is_empty);
+        return label_texts(page) + (button->isHidden() ? "" : " [" + button->text() + "]");
+    };
+    EXPECT_EQ(state(true, true), "Commands library is empty");
+    EXPECT_EQ(state(false, true), "Context menu commands list is empty [Reset to default commands list]");
+    QTest::mouseClick(page.findChild<QPushButton*>(), Qt::LeftButton);
+    EXPECT_EQ(app.resets, 1);
+    EXPECT_EQ(state(true, false), "Select a command");
+    EXPECT_EQ(state(false, false), "Select a command");
+}
+
+TEST(ChangeCommandNameDlg, KeepsBothTextsOnOk)
+{
+    MVCommandBuiltin command(CommandType::MultiRename, u"Rename Files");
+    command.set_name1(u"Rename it");
+    ChangeCommandNameDlg dialog(command, nullptr);
+    const auto edits = dialog.findChildren<QLineEdit*>();
+    ASSERT_EQ(edits.size(), 2);
+    EXPECT_EQ(edits[0]->text() + '|' + edits[1]->text(), "Rename Files|Rename it");
+    EXPECT_EQ(edits[1]->placeholderText(), "Rename File");
+
+    edits[0]->setText(" Folders & Paths ");
+    edits[1]->clear();
+    EXPECT_EQ(edits[1]->placeholderText(), " Folder & Path ");
+    EXPECT_EQ(dialog.name(), "Rename Files");
+    dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    EXPECT_EQ(dialog.name() + '|' + dialog.name1(), " Folders & Paths |");
+    EXPECT_EQ(command.name(), u"Rename Files");
+}
+
+TEST(ChecksumCompareDlg, ShowsBothChecksumsReadably)
+{
+    const QPalette before = QApplication::palette();
+    const QPalette dark(QColor(0x30, 0x30, 0x30));
+    QApplication::setPalette(dark);
+    for (const bool equal : {true, false}) {
+        const ChecksumComparison comparison{u"ABCD", equal ? u"abcd" : u"<b>1", "CRC32", equal};
+        ChecksumCompareDlg dialog(comparison);
+        ASSERT_NE(dialog.palette().color(QPalette::WindowText), QColor(Qt::black));
+        EXPECT_EQ(label_texts(dialog),
+                  equal ? "Clipboard:\nABCD\nFile:\nabcd\nMATCH" : "Clipboard:\nABCD\nFile:\n<b>1\nNO MATCH");
+        for (const QLabel* label : dialog.findChildren<QLabel*>())
+            if (label->textInteractionFlags() & Qt::TextSelectableByMouse) {
+                EXPECT_EQ(label->palette().color(QPalette::WindowText), QColor(Qt::black));
+            }
+        const auto pressed = equal ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel;
+        dialog.findChild<QDialogButtonBox*>()->button(pressed)->click();
+        EXPECT_EQ(dialog.result(), equal ? QDialog::Accepted : QDialog::Rejected);
+    }
+    QApplication::setPalette(before);
+}
+
+TEST(CompareWithClipboard, ReadsTextAloneAndLeavesItThere)
+{
+    const TempFolder folder;
+    const MVItemsSet set(folder.write("file"));
+    const VellumarkCommand command(
+        boost::json::parse(
+            R"({"name": "sums", "separator": "", "fileParts": [{"item-type": "checksum", "checksum-type": "crc32"}]})")
+            .as_object());
+    QClipboard& clipboard = *QApplication::clipboard();
+    clipboard.setText("CRC32: 0xCBF43926");
+    const auto comparison = compare_with_clipboard(command, set, u"cbf43926");
+    ASSERT_TRUE(comparison);
+    EXPECT_EQ(comparison->copied, u"CBF43926");
+    EXPECT_TRUE(comparison->equal);
+    EXPECT_EQ(clipboard.text(), "CRC32: 0xCBF43926");
+
+    auto* picture = new QMimeData;
+    picture->setData("image/png", "cbf43926");
+    clipboard.setMimeData(picture);
+    EXPECT_FALSE(compare_with_clipboard(command, set, u"cbf43926"));
+}
+
+/// Takes the place of the desktop's browser.
+class Browser : public QObject
+{
+    Q_OBJECT
+
+public slots:
+
+    void open(const QUrl& url) { opened = url; }
+
+public:
+    QUrl opened;
+};
+
+TEST(AboutDlg, TellsTheVersionAndLeadsToTheWebSite)
+{
+    AboutDlg dialog;
+    EXPECT_TRUE(label_texts(dialog).contains("v4.7.2.0-IN"));
+    QPalette palette;
+    palette.setColor(QPalette::Link, QColor(0x12, 0x34, 0x56));
+    dialog.setPalette(palette);
+    EXPECT_TRUE(label_texts(dialog).contains(
+        R"(<a href="link" style="color:#123456; text-decoration:underline;">vellumark.example</a>)"));
+
+    Browser browser;
+    QDesktopServices::setUrlHandler("https", &browser, "open");
+    for (QLabel* label : dialog.findChildren<QLabel*>())
+        emit label->linkActivated("link");
+    QDesktopServices::unsetUrlHandler("https");
+    EXPECT_EQ(browser.opened, QUrl("https://vellumark.example"));
+}
+
+TEST(AboutDlg, MarksTheBuildByItsFolder)
+{
+    EXPECT_EQ(version_line(R"(C:\Program Files\windowsapps\Vellumark_4.7)"), "v4.7.2.0-MS");
+    EXPECT_EQ(version_line(R"(C:\Program Files\WindowsApps)"), "v4.7.2.0-MS");
+    EXPECT_EQ(version_line(R"(C:\My WindowsApps\x)"), "v4.7.2.0-IN");
+}
+
+}
+
+#include "dialogs_test.moc"
