@@ -53,6 +53,7 @@ TEST(ClipboardPreview, ShowsTextOrWorkOrHelp)
     EXPECT_TRUE(edit.isVisible());
     preview.show_updating();
     EXPECT_EQ(visible_labels(preview), "Updating...") << "of the run before nothing is left";
+    EXPECT_EQ(edit.toPlainText(), "");
     preview.show_page_for(0);
     EXPECT_EQ(visible_labels(preview),
               "<h2><b>No items selected</b></h2><p>To select items:</p><ul><li style='line-height: 150%;'>Open "

@@ -16,15 +16,15 @@ enum Page { TextPage, UpdatingPage };
 
 }
 
-ClipboardPreviewWidget::ClipboardPreviewWidget(QWidget* parent) : QWidget(parent)
+// The children are made without a parent, for they come in the order in which the layouts take them.
+ClipboardPreviewWidget::ClipboardPreviewWidget(QWidget* parent)
+    : QWidget(parent), text_edit_(new PreviewTextEdit), progress_(new ProgressLines), pages_(new QStackedLayout)
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(0);
-    layout->addWidget(new HeaderLabel(tr("Clipboard Preview"), this));
-    pages_ = new QStackedLayout;
+    layout->addWidget(new HeaderLabel(tr("Clipboard Preview")));
     layout->addLayout(pages_);
-    text_edit_ = new PreviewTextEdit(this);
     text_edit_->setAccessibleName(tr("Clipboard Preview"));
     pages_->addWidget(text_edit_);
     pages_->addWidget(make_updating_page());
@@ -38,7 +38,6 @@ QWidget* ClipboardPreviewWidget::make_updating_page()
     QFont italic = label->font();
     italic.setItalic(true);
     label->setFont(italic);
-    progress_ = new ProgressLines(page);
     auto* layout = new QVBoxLayout(page);
     layout->addWidget(label);
     layout->addWidget(progress_);
@@ -56,6 +55,8 @@ void ClipboardPreviewWidget::show_updating()
 {
     progress_->show_progress({}, {});
     pages_->setCurrentIndex(UpdatingPage);
+    // Nobody sees the rest of the old text come, and its memory can serve the new one.
+    text_edit_->show_text({});
 }
 
 void ClipboardPreviewWidget::show_progress(const QString& status, const QString& item)
@@ -66,7 +67,7 @@ void ClipboardPreviewWidget::show_progress(const QString& status, const QString&
 void ClipboardPreviewWidget::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
-    if (text_edit_ && is_scheme_change(*event))
+    if (is_scheme_change(*event))
         update_background();
 }
 

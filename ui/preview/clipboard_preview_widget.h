@@ -28,7 +28,7 @@ private:
     QWidget* make_updating_page();
     void update_background();
 
-    PreviewTextEdit* text_edit_ = nullptr;
-    ProgressLines* progress_ = nullptr;
-    QStackedLayout* pages_ = nullptr;
+    PreviewTextEdit* const text_edit_;
+    ProgressLines* const progress_;
+    QStackedLayout* const pages_;
 };

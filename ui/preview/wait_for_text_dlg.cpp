@@ -6,15 +6,15 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-WaitForTextDlg::WaitForTextDlg(QWidget* parent) : QDialog(parent)
+// The children are made without a parent, for they come in the order in which the layout takes them.
+WaitForTextDlg::WaitForTextDlg(QWidget* parent) : QDialog(parent), progress_(new ProgressLines)
 {
     setModal(true);
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(new QLabel(tr("Please wait while the text is generated."), this));
-    layout->addWidget(new QLabel(tr("This dialog will automatically close once the text has been generated."), this));
-    progress_ = new ProgressLines(this);
+    layout->addWidget(new QLabel(tr("Please wait while the text is generated.")));
+    layout->addWidget(new QLabel(tr("This dialog will automatically close once the text has been generated.")));
     layout->addWidget(progress_);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(buttons);
 }

@@ -18,5 +18,5 @@ public slots:
     void show_progress(const QString& status, const QString& item);
 
 private:
-    ProgressLines* progress_ = nullptr;
+    ProgressLines* const progress_;
 };
