@@ -17,6 +17,8 @@ constexpr double tab_stop_distance = 30.0;
 constexpr int least_screenful = 100;
 constexpr qsizetype step_pieces = 200, step_units = 16'384;
 constexpr qint64 slice_ms = 3;
+/// The first screenful is painted and what the user does is heard before the rest comes.
+constexpr int pause_before_rest_ms = 10;
 
 }
 
@@ -42,7 +44,7 @@ void PreviewTextEdit::show_text(const QString& text)
     horizontalScrollBar()->setValue(0);
     verticalScrollBar()->setValue(0);
     if (!pieces_.is_complete())
-        fill_timer_.start(0);
+        fill_timer_.start(pause_before_rest_ms);
 }
 
 void PreviewTextEdit::append_pieces(qsizetype pieces, qsizetype units)
@@ -54,6 +56,7 @@ void PreviewTextEdit::append_pieces(qsizetype pieces, qsizetype units)
 
 void PreviewTextEdit::append_slice()
 {
+    fill_timer_.setInterval(0);
     QElapsedTimer slice;
     slice.start();
     const bool joins_view = blockCount() <= verticalScrollBar()->value() + visible_lines();
