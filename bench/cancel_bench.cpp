@@ -32,7 +32,7 @@ using Clock = std::chrono::steady_clock;
 class NoWatcher final : public VellumarkWatcher
 {
 public:
-    void text_ready(std::u16string, std::uint32_t) override { finished = true; }
+    void text_report(std::u16string, std::uint32_t) override { finished = true; }
 
     std::atomic<bool> finished = false;
 };

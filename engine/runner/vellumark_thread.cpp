@@ -52,6 +52,7 @@ void VellumarkThread::work()
 {
     while (take_request())
         run();
+    tell_idle();
 }
 
 bool VellumarkThread::take_request()
@@ -97,5 +98,17 @@ std::u16string VellumarkThread::made_text()
 void VellumarkThread::deliver(std::u16string text)
 {
     if (!is_cancelled())
-        watcher_.text_ready(std::move(text), request_id_);
+        watcher_.text_report(std::move(text), request_id_);
+}
+
+void VellumarkThread::tell_idle()
+{
+    // Another request joins this thread before it starts its own, so the watcher is told in order.
+    if (state_ == State::Stopping)
+        return;
+    try {
+        watcher_.worker_idle();
+    } catch (...) {
+        // Thrown by the watcher itself, who can't be told of it.
+    }
 }

@@ -31,6 +31,10 @@ public:
     /// False between a cancel and the start of the next run.
     bool is_running() const;
 
+    /// Whether the selection is left alone until the next request. False while a cancelled run still comes to its
+    /// end.
+    bool is_idle() const { return state_ == State::Idle; }
+
     bool is_cancelled() override { return state_ != State::Running; }
 
     void report_item(std::u16string_view text) override { watcher_.item_report(text); }
@@ -52,6 +56,7 @@ private:
     /// The request's text; empty after a failure, which the watcher has been told then.
     std::u16string made_text();
     void deliver(std::u16string text);
+    void tell_idle();
 
     VellumarkWatcher& watcher_;
     const std::shared_ptr<const MVItemsSet> items_;

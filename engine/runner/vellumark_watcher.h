@@ -13,12 +13,16 @@ public:
 
     /// The text of the request with this id, which has not been overtaken so far. Called on the worker thread. May
     /// make a new request.
-    virtual void text_ready(std::u16string text, std::uint32_t request_id) = 0;
+    virtual void text_report(std::u16string text, std::uint32_t request_id) = 0;
 
     /// The path of the item being worked on; from any of a run's threads, several at once.
     virtual void item_report(std::u16string_view) {}
 
     /// What a run is doing; from its threads. When a run fails, the words of its exception come here, then an empty
-    /// text through `text_ready`.
+    /// text through `text_report`.
     virtual void status_report(std::u16string_view) {}
+
+    /// The worker has stopped reading the selection and is idle; a request may have made it busy again before this
+    /// is told. Called on the worker thread, which then ends. Makes no request. Not told when the thread object goes.
+    virtual void worker_idle() {}
 };

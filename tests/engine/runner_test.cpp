@@ -18,7 +18,7 @@ using namespace std::chrono_literals;
 class RecordingWatcher final : public VellumarkWatcher
 {
 public:
-    void text_ready(std::u16string text, std::uint32_t id) override
+    void text_report(std::u16string text, std::uint32_t id) override
     {
         if (on_text)
             on_text(id);
@@ -31,6 +31,12 @@ public:
     {
         if (during)
             during();
+    }
+
+    void worker_idle() override
+    {
+        if (on_idle)
+            on_idle();
     }
 
     void status_report(std::u16string_view text) override
@@ -53,7 +59,7 @@ public:
         return statuses_;
     }
 
-    std::function<void()> during;
+    std::function<void()> during, on_idle;
     std::function<void(std::uint32_t)> on_text;
 
 private:
@@ -131,6 +137,38 @@ TEST_F(Runner, ANullRequestEndsTheRunWithoutAText)
     thread.request(nullptr, 2);
     thread.request(&next, 3);
     EXPECT_EQ(watcher_.texts(1), Texts{"3:next"});
+}
+
+TEST_F(Runner, IsIdleOnlyWhenACancelledRunHasReallyEnded)
+{
+    std::atomic<bool> entered = false, release = false;
+    std::atomic<int> told = 0;
+    watcher_.during = [&] {
+        entered = true;
+        while (!release)
+            std::this_thread::sleep_for(1ms);
+    };
+    VellumarkThread thread(watcher_, items_);
+    watcher_.on_idle = [&] {
+        told += thread.is_idle() ? 1 : 100;
+        throw std::runtime_error("from the slot");
+    };
+    EXPECT_TRUE(thread.is_idle());
+    const VellumarkCommand blocked = hashing();
+    for (int runs = 1; runs <= 2; ++runs) {
+        entered = release = false;
+        thread.request(&blocked, 1);
+        while (!entered)
+            std::this_thread::sleep_for(1ms);
+        thread.request(nullptr, 0);
+        std::this_thread::sleep_for(5ms);
+        EXPECT_FALSE(thread.is_running() || thread.is_idle());
+        release = true;
+        while (told < runs)
+            std::this_thread::sleep_for(1ms);
+        EXPECT_TRUE(thread.is_idle());
+    }
+    EXPECT_EQ(told, 2);
 }
 
 TEST_F(Runner, TheCommandIsCopiedAtTheRequest)

@@ -1,0 +1,90 @@
+#include "app/selection_intake.h"
+#include "app/selection_paths.h"
+#include "support/preview_fixture.h"
+#include "ui/text.h"
+
+#include <random>
+
+namespace {
+
+/// An intake with a generator behind it, as the application joins them.
+class PreviewSelectionTest : public testing::Test
+{
+protected:
+    PreviewSelectionTest()
+    {
+        for (int i = 0; i < 20; ++i)
+            paths_ += to_qstring(folder_.write("f" + std::to_string(i), std::string(5'000, 'x')));
+        QObject::connect(&intake_, &SelectionIntake::selection_ready, [this](int, const QStringList& paths) {
+            EXPECT_FALSE(generator_ && generator_->is_reading());
+            enter_selection(*items_, paths);
+            refresh();
+        });
+        renew_generator();
+    }
+
+    void renew_generator() { generator_ = std::make_unique<PreviewGenerator>(items_, intake_); }
+
+    void refresh() { generator_->set_command(command_); }
+
+    void do_something(unsigned what)
+    {
+        switch (what % 8) {
+        case 0:
+        case 1:
+        case 2: intake_.take(-1, paths_.mid(what % 7, 1 + what % 13)); break;
+        case 3: command_ = names(); break;
+        case 4: command_ = checksums(); break;
+        case 5: generator_->set_command(nullptr); break;
+        case 6: what % 3 == 0 ? generator_->suspend() : generator_->resume(); break;
+        case 7: renew_generator(); break;
+        }
+        refresh();
+    }
+
+    bool settles_all()
+    {
+        return QTest::qWaitFor([this] { return !intake_.is_selection_waiting(); }, 60'000) && settles(*generator_);
+    }
+
+    TempFolder folder_;
+    QStringList paths_;
+    std::shared_ptr<MVItemsSet> items_ = std::make_shared<MVItemsSet>();
+    SelectionIntake intake_;
+    std::shared_ptr<VellumarkCommand> command_ = names();
+    std::unique_ptr<PreviewGenerator> generator_;
+};
+
+}
+
+TEST_F(PreviewSelectionTest, NewSelectionStopsTheRunAndIsShown)
+{
+    PreviewLog log(*generator_);
+    command_ = checksums();
+    intake_.take(0, {to_qstring(endless_file(folder_, "endless"))});
+    EXPECT_TRUE(generator_->is_reading());
+    EXPECT_FALSE(intake_.is_selection_waiting()) << "nobody was reading";
+    command_ = names();
+    intake_.take(0, {paths_[0]});
+    intake_.take(0, paths_.mid(2, 2));
+    EXPECT_TRUE(intake_.is_selection_waiting());
+    EXPECT_TRUE(settles_all());
+    EXPECT_EQ(log.text(), "......[f2,f3]");
+}
+
+TEST_F(PreviewSelectionTest, SurvivesAnythingAtAnyMoment)
+{
+    std::mt19937 random(5);
+    for (int round = 0; round < 1000; ++round) {
+        do_something(static_cast<unsigned>(random()));
+        if (random() % 3 == 0)
+            QTest::qWait(static_cast<int>(random() % 3));
+        else
+            QCoreApplication::processEvents();
+    }
+    generator_->resume();
+    command_ = names();
+    intake_.take(-1, paths_.mid(4, 3));
+    EXPECT_TRUE(settles_all());
+    EXPECT_EQ(generator_->text(), "f4,f5,f6");
+}

@@ -1,0 +1,174 @@
+#include "support/preview_fixture.h"
+
+#include <QElapsedTimer>
+
+namespace {
+
+/// A selection that waits as long as it is told to.
+class Readers final : public SelectionReaders
+{
+public:
+    void add_reader(SelectionReader& reader) override { reader_ = &reader; }
+
+    void remove_reader(SelectionReader& reader) override { EXPECT_EQ(std::exchange(reader_, nullptr), &reader); }
+
+    void reading_ended() override
+    {
+        EXPECT_FALSE(reader_->is_reading());
+        ++ended;
+    }
+
+    bool is_selection_waiting() const override { return waits; }
+
+    bool waits = false;
+    int ended = 0;
+
+private:
+    SelectionReader* reader_ = nullptr;
+};
+
+class PreviewGeneratorTest : public testing::Test
+{
+protected:
+    PreviewGeneratorTest()
+        : items_(std::make_shared<MVItemsSet>(endless_file(folder_, "endless"))),
+          generator_(std::make_unique<PreviewGenerator>(items_, readers_)), log_(*generator_)
+    {}
+
+    /// A run that doesn't end by itself, and has come to its work.
+    void start_endless_run()
+    {
+        QSignalSpy progress(generator_.get(), &PreviewGenerator::progress_changed);
+        generator_->set_command(checksums());
+        const auto has_begun = [&] { return !progress.isEmpty() && !progress.back()[1].toString().isEmpty(); };
+        EXPECT_TRUE(QTest::qWaitFor(has_begun, 60'000));
+    }
+
+    bool stops_reading()
+    {
+        return QTest::qWaitFor([this] { return !generator_->is_reading(); }, 60'000);
+    }
+
+    TempFolder folder_;
+    Readers readers_;
+    std::shared_ptr<MVItemsSet> items_;
+    std::unique_ptr<PreviewGenerator> generator_;
+    PreviewLog log_;
+};
+
+}
+
+TEST_F(PreviewGeneratorTest, BurstBringsOneText)
+{
+    start_endless_run();
+    std::string updates = log_.text();
+    for (int i = 0; i < 100; ++i) {
+        generator_->set_command(literal(std::to_string(i)));
+        updates += "...";
+    }
+    EXPECT_TRUE(generator_->is_updating());
+    EXPECT_TRUE(settles(*generator_));
+    QTest::qWait(50);
+    EXPECT_EQ(log_.text(), updates + "[99]");
+    EXPECT_EQ(generator_->text(), "99");
+}
+
+TEST_F(PreviewGeneratorTest, TextThatIsOvertakenOnItsWayIsDropped)
+{
+    generator_->set_command(literal("old"));
+    while (generator_->is_reading())
+        QTest::qSleep(1);
+    EXPECT_TRUE(generator_->is_updating()) << "made, but not here yet";
+    EXPECT_EQ(generator_->text(), "");
+    generator_->set_command(literal("new"));
+    EXPECT_TRUE(settles(*generator_));
+    generator_->set_command(literal("gone"));
+    while (generator_->is_reading())
+        QTest::qSleep(1);
+    generator_->set_command(nullptr);
+    QTest::qWait(50);
+    EXPECT_EQ(log_.text(), "......[new]...[]");
+    EXPECT_FALSE(generator_->is_updating());
+}
+
+TEST_F(PreviewGeneratorTest, NoCommandEmptiesTheTextDuringARun)
+{
+    start_endless_run();
+    generator_->set_command(nullptr);
+    EXPECT_EQ(log_.text(), "...[]");
+    EXPECT_TRUE(stops_reading());
+    generator_->set_command(names());
+    EXPECT_TRUE(settles(*generator_));
+    EXPECT_EQ(log_.text(), "...[]...[endless]");
+}
+
+TEST_F(PreviewGeneratorTest, GoesInTheMiddleOfARun)
+{
+    start_endless_run();
+    QElapsedTimer time;
+    time.start();
+    generator_.reset();
+    EXPECT_LT(time.elapsed(), 2000);
+    QTest::qWait(10);
+    EXPECT_EQ(log_.text(), "...");
+}
+
+TEST_F(PreviewGeneratorTest, StartsNothingWhileASelectionWaits)
+{
+    start_endless_run();
+    readers_.waits = true;
+    generator_->stop_reading();
+    EXPECT_TRUE(generator_->is_reading()) << "the worker can't have noticed yet";
+    generator_->set_command(names());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return readers_.ended > 0; }, 60'000));
+    QTest::qWait(50);
+    EXPECT_TRUE(!generator_->is_reading() && generator_->is_updating());
+    EXPECT_EQ(log_.text(), "......");
+    readers_.waits = false;
+    items_->reset();
+    items_->add_path(folder_.write("other"));
+    generator_->set_command(names());
+    EXPECT_TRUE(settles(*generator_));
+    EXPECT_EQ(log_.text(), ".........[other]");
+}
+
+TEST_F(PreviewGeneratorTest, SuspendedItWorksNot)
+{
+    start_endless_run();
+    generator_->suspend();
+    EXPECT_TRUE(stops_reading());
+    generator_->set_command(names());
+    QTest::qWait(50);
+    EXPECT_FALSE(generator_->is_reading());
+    generator_->resume();
+    EXPECT_TRUE(settles(*generator_));
+    EXPECT_EQ(log_.text(), ".........[endless]");
+    generator_->set_command(nullptr);
+    generator_->resume();
+    EXPECT_EQ(log_.text(), ".........[endless][]");
+}
+
+TEST_F(PreviewGeneratorTest, ProgressIsToldAndForgotten)
+{
+    QSignalSpy progress(generator_.get(), &PreviewGenerator::progress_changed);
+    start_endless_run();
+    EXPECT_EQ(progress.back()[0], "Computing checksums...");
+    EXPECT_TRUE(progress.back()[1].toString().endsWith("\\endless"));
+    progress.clear();
+    QTest::qWait(550);
+    EXPECT_LE(progress.size(), 6);
+    generator_->set_command(names());
+    EXPECT_TRUE(settles(*generator_));
+    progress.clear();
+    QTest::qWait(150);
+    EXPECT_TRUE(progress.isEmpty());
+}
+
+TEST_F(PreviewGeneratorTest, ACommandEndsABatch)
+{
+    EXPECT_FALSE(generator_->defer_updates());
+    generator_->begin_batch();
+    EXPECT_TRUE(generator_->defer_updates());
+    generator_->set_command(names());
+    EXPECT_FALSE(generator_->defer_updates());
+}

@@ -1,0 +1,160 @@
+#include "ui/preview/preview_text_edit.h"
+#include "ui/preview/text_pieces.h"
+
+#include <gtest/gtest.h>
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QTest>
+
+namespace {
+
+struct Shown {
+    QString text;
+    TextPieces pieces;
+};
+
+Shown shown(const QString& text, qsizetype pieces, qsizetype units)
+{
+    Shown result{{}, TextPieces(text)};
+    while (!result.pieces.is_complete())
+        result.text += result.pieces.next(pieces, units);
+    return result;
+}
+
+/// What is shown at each place, put together from the text.
+QString copied_unit_by_unit(const Shown& shown)
+{
+    QString copied;
+    for (qsizetype place = 0; place < shown.text.size(); ++place) {
+        const TextPieces::Part part = shown.pieces.shown_part(place, place + 1);
+        const QString unit = shown.pieces.text().mid(part.offset, part.length);
+        if (shown.text[place] != u'\n' && shown.text[place] != QChar::ReplacementCharacter) {
+            EXPECT_EQ(unit, shown.text[place]) << place;
+        }
+        copied += unit;
+    }
+    return copied;
+}
+
+const QString pair = QString::fromUcs4(U"\U0001F600", 1);
+
+/// A surrogate pair at each place of a line, so that every cut falls into one.
+QString pairs(int count, bool shifted)
+{
+    return (shifted ? "x" : "") + pair.repeated(count);
+}
+
+const QString odd_units = QString(u"a\0b\u2028c\u2029d\u00a0e\ufdd0f\ufdd1g\rh\u200bi\ufffcj"_qs) + QChar(0xd800);
+
+const std::vector<QString> texts{
+    "",
+    "one",
+    "\n",
+    "a\nb\n",
+    "a\r\nb\r\n\r\n",
+    "a\rb\n\rc",
+    odd_units,
+    QString(TextPieces::longest, u'x') + "\r\n" + QString(TextPieces::longest + 1, u'y') + "\n",
+    QString(5 * TextPieces::longest, u'z'),
+    pairs(3000, false),
+    pairs(3000, true),
+};
+
+PreviewTextEdit& edit_with(const QString& text)
+{
+    static PreviewTextEdit edit;
+    edit.resize(400, 300);
+    edit.show_text(text);
+    return edit;
+}
+
+QString copied(PreviewTextEdit& edit)
+{
+    edit.copy();
+    return QGuiApplication::clipboard()->text();
+}
+
+QString lines(int count)
+{
+    QString text;
+    for (int i = 0; i < count; ++i)
+        text += QString::number(i) + "\r\n";
+    return text;
+}
+
+bool fills(const PreviewTextEdit& edit)
+{
+    return QTest::qWaitFor([&] { return !edit.is_filling(); }, 60'000);
+}
+
+}
+
+TEST(TextPieces, EveryPlaceLeadsBackIntoTheText)
+{
+    for (const QString& text : texts)
+        for (const auto& [pieces, units] : {std::pair<int, int>{1, 1}, {3, 2000}, {1'000'000, 1'000'000}}) {
+            const Shown all = shown(text, pieces, units);
+            EXPECT_EQ(copied_unit_by_unit(all), text);
+            EXPECT_EQ(all.pieces.shown_part(0, all.text.size()), (TextPieces::Part{0, text.size()}));
+            for (const QString& piece : all.text.split(u'\n')) {
+                EXPECT_LE(piece.size(), TextPieces::longest);
+                EXPECT_FALSE(piece.startsWith(pair.back()) || piece.endsWith(pair.front()));
+            }
+        }
+}
+
+TEST(TextPieces, TakesNoMoreThanItIsAsked)
+{
+    TextPieces pieces(QString(10 * TextPieces::longest, u'x'));
+    EXPECT_EQ(pieces.next(2, 1'000'000).count(u'\n'), 2);
+    EXPECT_EQ(pieces.next(100, TextPieces::longest + 10).count(u'\n'), 2);
+    EXPECT_EQ(pieces.shown_part(0, 4 * TextPieces::longest + 4).length, 10 * TextPieces::longest)
+        << "what comes joins it";
+    EXPECT_EQ(pieces.shown_part(5, 2 * TextPieces::longest + 2).length, 2 * TextPieces::longest - 5);
+}
+
+TEST(PreviewTextEdit, CopiesTheTextAsItIs)
+{
+    for (const QString& text : texts) {
+        PreviewTextEdit& edit = edit_with(text);
+        EXPECT_TRUE(fills(edit));
+        QGuiApplication::clipboard()->clear();
+        edit.selectAll();
+        EXPECT_EQ(copied(edit), text);
+    }
+}
+
+TEST(PreviewTextEdit, ShowsAndSelectsWhileTheRestComes)
+{
+    const QString text = lines(100'000);
+    PreviewTextEdit& edit = edit_with(text);
+    EXPECT_TRUE(edit.is_filling());
+    EXPECT_TRUE(edit.toPlainText().startsWith("0\n1\n2\n"));
+    EXPECT_EQ(edit.textCursor().position(), 0);
+    edit.selectAll();
+    EXPECT_EQ(copied(edit), text);
+    QTest::qWait(5);
+    EXPECT_EQ(copied(edit), text);
+    EXPECT_TRUE(fills(edit));
+    EXPECT_EQ(copied(edit), text);
+    EXPECT_EQ(edit.blockCount(), 100'001);
+    QTextCursor part(edit.document());
+    part.setPosition(2);
+    part.setPosition(5, QTextCursor::KeepAnchor);
+    edit.setTextCursor(part);
+    EXPECT_EQ(copied(edit), "1\r\n2");
+}
+
+TEST(PreviewTextEdit, ANewTextDropsTheRestOfTheOld)
+{
+    edit_with(lines(100'000));
+    PreviewTextEdit& edit = edit_with("new");
+    EXPECT_FALSE(edit.is_filling());
+    QTest::qWait(20);
+    EXPECT_EQ(edit.toPlainText(), "new");
+    edit_with(lines(100'000));
+    edit_with(lines(10'000));
+    EXPECT_TRUE(fills(edit));
+    EXPECT_EQ(edit.blockCount(), 10'001);
+}
