@@ -217,6 +217,8 @@ void MirvantaApp::take_selection(int command_index, const QStringList& paths)
 {
     try {
         enter_selection(*selected_items_, paths);
+        if (!selected_items_->items().empty())
+            exemplar_.set_item(selected_items_->items().front());
         if (command_index >= 0) {
             show_list(menu_tab);
             menu_list_.select(command_index);

@@ -7,6 +7,7 @@
 #include "app/stored_state.h"
 #include "ui/app_services.h"
 #include "ui/lists/commands_list_controller.h"
+#include "ui/preview/exemplar_item_provider.h"
 
 #include <QDialog>
 #include <QUndoStack>
@@ -100,6 +101,7 @@ private:
     StoredState stored_;
     SaveFlow save_flow_;
     QUndoStack undo_stack_;
+    ExemplarItemProvider exemplar_;
     PathProbe probe_;
     SelectionIntake intake_;
     MirvantaNamedPipeServer pipe_server_;

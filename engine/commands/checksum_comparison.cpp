@@ -4,6 +4,7 @@
 #include "engine/items/mv_items_set.h"
 #include "engine/parts/checksum_part.h"
 #include "engine/text/letters.h"
+#include "engine/text/utf.h"
 
 #include <algorithm>
 
@@ -61,6 +62,6 @@ std::optional<ChecksumComparison> compare_checksum(const VellumarkCommand& comma
     const std::u16string_view copied = first_checksum(*clipboard, *row);
     if (copied.empty())
         return std::nullopt;
-    return ChecksumComparison{std::u16string(copied), std::u16string(text), row->display,
+    return ChecksumComparison{std::u16string(copied), std::u16string(text), to_utf16(row->display),
                               std::ranges::equal(copied, text, {}, to_lower, to_lower)};
 }

@@ -10,10 +10,10 @@ class VellumarkCommand;
 
 /// A checksum that has just been made, beside one that the user has copied from somewhere.
 struct ChecksumComparison {
-    std::u16string copied; ///< as it stands in the clipboard
-    std::u16string generated;
-    std::string_view type_name; ///< the checksum type's display name
-    bool equal = false;         ///< without regard to case
+    std::u16string clipboard_checksum; ///< as it stands there
+    std::u16string file_checksum;
+    std::u16string checksum_type_name; ///< its display name
+    bool matches = false;              ///< without regard to case
 };
 
 /// The clipboard's text; empty when there is none or the clipboard can't be read.

@@ -187,7 +187,8 @@ TEST(ChecksumComparison, FindsTheCopiedChecksum)
     const auto compared = [&](const VellumarkCommand& c, std::u16string text,
                               std::u16string clipboard) -> std::string {
         const auto result = compare_checksum(c, set, text, [&] { return std::optional(clipboard); });
-        return result ? to_utf8(result->copied) + (result->equal ? " = " : " # ") + std::string(result->type_name)
+        return result ? to_utf8(result->clipboard_checksum) + (result->matches ? " = " : " # ") +
+                            to_utf8(result->checksum_type_name)
                       : "none";
     };
     const std::vector<std::pair<std::u16string, std::string>> cases{{u"0xCBF43926", "CBF43926 = CRC32"},

@@ -1,6 +1,7 @@
 #include "engine/commands/vellumark_command.h"
 #include "engine/items/mv_items_set.h"
 #include "store/mv_command_builtin.h"
+#include "support/fake_clipboard.h"
 #include "support/temp_folder.h"
 #include "ui/app_services.h"
 #include "ui/dialogs/about_dlg.h"
@@ -123,7 +124,7 @@ TEST(ChecksumCompareDlg, ShowsBothChecksumsReadably)
     QApplication::setPalette(before);
 }
 
-TEST(CompareWithClipboard, ReadsTextAloneAndLeavesItThere)
+TEST(CompareWithClipboard, AsksOtherProgramsAndThisOne)
 {
     const TempFolder folder;
     const MVItemsSet set(folder.write("file"));
@@ -131,18 +132,21 @@ TEST(CompareWithClipboard, ReadsTextAloneAndLeavesItThere)
         boost::json::parse(
             R"({"name": "sums", "separator": "", "fileParts": [{"item-type": "checksum", "checksum-type": "crc32"}]})")
             .as_object());
-    QClipboard& clipboard = *QApplication::clipboard();
-    clipboard.setText("CRC32: 0xCBF43926");
-    const auto comparison = compare_with_clipboard(command, set, u"cbf43926");
+    FakeClipboard clipboard;
+    EXPECT_FALSE(compare_with_clipboard(clipboard, command, set, u"cbf43926")) << "holds no text";
+    clipboard.text = u"CRC32: 0xCBF43926";
+    const auto comparison = compare_with_clipboard(clipboard, command, set, u"cbf43926");
     ASSERT_TRUE(comparison);
-    EXPECT_EQ(comparison->copied, u"CBF43926");
-    EXPECT_TRUE(comparison->equal);
-    EXPECT_EQ(clipboard.text(), "CRC32: 0xCBF43926");
+    EXPECT_EQ(comparison->clipboard_checksum, u"CBF43926");
+    EXPECT_TRUE(comparison->matches);
+    EXPECT_EQ(clipboard.calls, "open read close open read close ");
+    clipboard.fails_at = "open";
+    EXPECT_FALSE(compare_with_clipboard(clipboard, command, set, u"cbf43926"));
 
-    auto* picture = new QMimeData;
-    picture->setData("image/png", "cbf43926");
-    clipboard.setMimeData(picture);
-    EXPECT_FALSE(compare_with_clipboard(command, set, u"cbf43926"));
+    QClipboard& own = *QApplication::clipboard();
+    own.setText("cbf43927");
+    EXPECT_FALSE(compare_with_clipboard(clipboard, command, set, u"cbf43926")->matches) << "copied in this program";
+    own.clear();
 }
 
 /// Takes the place of the desktop's browser.

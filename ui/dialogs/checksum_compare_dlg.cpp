@@ -1,5 +1,6 @@
 #include "ui/dialogs/checksum_compare_dlg.h"
 
+#include "platform/clipboard.h"
 #include "ui/text.h"
 
 #include <QClipboard>
@@ -13,12 +14,15 @@
 
 namespace {
 
-std::optional<std::u16string> clipboard_text()
+/// A text that the user copied out of this program isn't told by another one.
+std::optional<std::u16string> text_in(platform::Clipboard& clipboard)
 {
-    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-    if (!data || !data->hasText())
-        return std::nullopt;
-    return from_qstring(data->text());
+    if (const QClipboard& own = *QGuiApplication::clipboard(); own.ownsClipboard()) {
+        const QMimeData* data = own.mimeData();
+        return data && data->hasText() ? std::optional(from_qstring(data->text())) : std::nullopt;
+    }
+    platform::OpenClipboard opened(clipboard);
+    return opened ? opened.read_text() : std::nullopt;
 }
 
 QLabel* checksum_label(std::u16string_view checksum)
@@ -60,10 +64,11 @@ void add_row(QGridLayout& grid, const QString& name, std::u16string_view checksu
 
 }
 
-std::optional<ChecksumComparison> compare_with_clipboard(const VellumarkCommand& command, const MVItemsSet& items,
+std::optional<ChecksumComparison> compare_with_clipboard(platform::Clipboard& clipboard,
+                                                         const VellumarkCommand& command, const MVItemsSet& items,
                                                          std::u16string_view text)
 {
-    return compare_checksum(command, items, text, clipboard_text);
+    return compare_checksum(command, items, text, [&clipboard] { return text_in(clipboard); });
 }
 
 ChecksumCompareDlg::ChecksumCompareDlg(const ChecksumComparison& comparison, QWidget* parent) : QDialog(parent)
@@ -71,11 +76,10 @@ ChecksumCompareDlg::ChecksumCompareDlg(const ChecksumComparison& comparison, QWi
     setWindowTitle(tr("Vellumark: Checksum comparison"));
     auto* grid = new QGridLayout;
     grid->setColumnStretch(1, 1);
-    add_row(*grid, tr("Clipboard:"), comparison.copied);
-    add_row(*grid, tr("File:"), comparison.generated);
-    QLabel* verdict = badge(comparison.equal);
-    verdict->setToolTip(
-        QString::fromUtf8(comparison.type_name.data(), static_cast<qsizetype>(comparison.type_name.size())));
+    add_row(*grid, tr("Clipboard:"), comparison.clipboard_checksum);
+    add_row(*grid, tr("File:"), comparison.file_checksum);
+    QLabel* verdict = badge(comparison.matches);
+    verdict->setToolTip(to_qstring(comparison.checksum_type_name));
     grid->addWidget(verdict, grid->rowCount(), 1, Qt::AlignLeft);
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);

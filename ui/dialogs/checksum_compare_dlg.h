@@ -4,8 +4,14 @@
 
 #include <QDialog>
 
-/// `compare_checksum` with the clipboard of the desktop. Main thread only.
-std::optional<ChecksumComparison> compare_with_clipboard(const VellumarkCommand& command, const MVItemsSet& items,
+namespace platform {
+class Clipboard;
+}
+
+/// `compare_checksum` with what is in the clipboard; a clipboard that can't be opened gives no comparison. Main
+/// thread only.
+std::optional<ChecksumComparison> compare_with_clipboard(platform::Clipboard& clipboard,
+                                                         const VellumarkCommand& command, const MVItemsSet& items,
                                                          std::u16string_view text);
 
 /// Shows a generated checksum beside the one in the clipboard. Accepted means that the generated one is to take the

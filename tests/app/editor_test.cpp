@@ -1,0 +1,167 @@
+#include "app/editors.h"
+#include "app_test.h"
+#include "box_answer.h"
+#include "store/last_command.h"
+#include "support/fake_clipboard.h"
+#include "ui/editor/vellumark_controller.h"
+#include "ui/preview/wait_for_text_dlg.h"
+#include "ui/text.h"
+
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QTest>
+
+#include <filesystem>
+#include <fstream>
+
+namespace {
+
+constexpr std::string_view sums = R"({"menuCommands":[{"commandType":"Vellumark","name":"Sums","separator":"",
+    "fileParts":[{"item-type":"checksum","checksum-type":"crc32"}]},
+    {"commandType":"Vellumark","name":"Names","separator":",","fileParts":[{"item-type":"name","name-type":"full-name"}]},
+    {"commandType":"Configure","name":"More"}],"commandsLibrary":[]})";
+
+/// The window with the program's own editors and a clipboard in memory.
+class EditorTest : public AppTest
+{
+protected:
+    void open_with(const QStringList& paths)
+    {
+        app.reset();
+        folder.write(user_file, sums);
+        app = std::make_unique<MirvantaApp>(editors_with(clipboard));
+        app->show();
+        app->on_context_menu_selected(-1, paths);
+        EXPECT_TRUE(
+            QTest::qWaitFor([&] { return app->selected_items()->items().size() == std::size_t(paths.size()); }));
+    }
+
+    QString path_of(std::string_view name, std::string_view content) const
+    {
+        return to_qstring(folder.write(name, content));
+    }
+
+    QPlainTextEdit& preview() const { return *app->findChild<QPlainTextEdit*>(); }
+
+    bool shows(const QString& text) const
+    {
+        return QTest::qWaitFor([&] { return preview().isVisible() && preview().toPlainText() == text; }, 60'000);
+    }
+
+    /// A file that no checksum of is done soon, and no disk holds.
+    QString endless_file() const
+    {
+        std::ofstream(folder.host("endless"));
+        std::filesystem::resize_file(folder.host("endless"), std::uintmax_t{1} << 42);
+        return to_qstring(folder.path("endless"));
+    }
+
+    FakeClipboard clipboard;
+};
+
+}
+
+TEST_F(EditorTest, ShowsTheTextAndCopiesIt)
+{
+    open_with({path_of("a.txt", "123456789"), path_of("b.txt", "")});
+    EXPECT_TRUE(shows("cbf4392600000000"));
+    app->menu_list().select(1);
+    EXPECT_TRUE(shows("a.txt,b.txt"));
+    press("OK");
+    EXPECT_FALSE(app->isVisible());
+    EXPECT_EQ(clipboard.text, u"a.txt,b.txt");
+    EXPECT_EQ(clipboard.calls, "open empty set close ");
+    ASSERT_TRUE(read_last_command());
+    EXPECT_EQ(read_last_command()->name(), u"Names");
+}
+
+TEST_F(EditorTest, TellsWhatFailedAndStays)
+{
+    struct Case {
+        const char* fails_at;
+        std::string_view box, calls;
+    };
+
+    open_with({path_of("a.txt", ""), path_of("b.txt", "")});
+    EXPECT_TRUE(shows("0000000000000000"));
+    for (const Case& c :
+         {Case{"open", "Vellumark Configure|Failed to open Windows clipboard|OK\n", "open "},
+          Case{"empty", "Vellumark Configure|Failed to copy text to Windows clipboard|OK\n", "open empty close "},
+          Case{"set", "Vellumark Configure|Failed to copy text to Windows clipboard|OK\n",
+               "open empty set close "}}) {
+        clipboard.fails_at = c.fails_at;
+        clipboard.calls.clear();
+        const BoxAnswer box({"OK"});
+        press("OK");
+        EXPECT_EQ(box.seen(), c.box);
+        EXPECT_EQ(clipboard.calls, c.calls);
+        EXPECT_TRUE(app->isVisible());
+        EXPECT_FALSE(read_last_command());
+    }
+}
+
+TEST_F(EditorTest, ComparesOneChecksumWithTheClipboard)
+{
+    for (const auto& [answer, copied] : {std::pair{"Cancel", u"0xCBF43926"}, std::pair{"OK", u"cbf43926"}}) {
+        clipboard.text = u"0xCBF43926";
+        open_with({path_of("a.txt", "123456789")});
+        EXPECT_TRUE(shows("cbf43926"));
+        bool was_hidden = false;
+        QTimer::singleShot(100, app.get(), [&] { was_hidden = !app->isVisible(); });
+        const BoxAnswer box({answer});
+        press("OK");
+        EXPECT_TRUE(was_hidden);
+        EXPECT_FALSE(app->isVisible());
+        EXPECT_EQ(clipboard.text, copied);
+    }
+    clipboard.text = u"0xCBF43926";
+    clipboard.fails_at = "set";
+    open_with({path_of("a.txt", "123456789")});
+    EXPECT_TRUE(shows("cbf43926"));
+    const BoxAnswer box({"OK"});
+    press("OK");
+    EXPECT_TRUE(app->isVisible()) << "the user may try again";
+}
+
+TEST_F(EditorTest, WaitsForTheTextThatIsStillMade)
+{
+    open_with({endless_file()});
+    press("OK");
+    auto* box = app->findChild<WaitForTextDlg*>();
+    ASSERT_TRUE(box && box->isVisible());
+    box->reject();
+    EXPECT_TRUE(app->isVisible());
+    EXPECT_EQ(clipboard.calls, "");
+    QTest::qWait(1); // the box goes
+    press("OK");
+    box = app->findChild<WaitForTextDlg*>();
+    ASSERT_TRUE(box && box->isVisible());
+    app->menu_list().select(1); // its text is there at once
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !app->isVisible(); }, 60'000));
+    EXPECT_EQ(clipboard.text, u"endless");
+}
+
+TEST_F(EditorTest, PagesFollowTheCommandAndTheSelection)
+{
+    open_with({path_of("a.txt", "")});
+    app->menu_list().select(2);
+    bool has_title = false;
+    for (const QLabel* label : app->findChildren<QLabel*>())
+        has_title |= label->isVisible() && label->text() == "<h2>File Action Command</h2>";
+    EXPECT_TRUE(has_title);
+    app->menu_list().select(1);
+    EXPECT_TRUE(shows("a.txt"));
+    const auto separator = [&](std::u16string text) {
+        auto& command = dynamic_cast<VellumarkCommand&>(*app->menu_list().current_command());
+        command.set_start_text(std::move(text));
+        app->current_editor()->refresh();
+    };
+    separator(u"<");
+    EXPECT_TRUE(shows("<a.txt"));
+    EXPECT_TRUE(button("Save"));
+    app->current_editor()->begin_update();
+    app->current_editor()->end_update();
+    EXPECT_TRUE(shows("<a.txt"));
+    app->on_context_menu_selected(-1, {path_of("b.txt", "")});
+    EXPECT_TRUE(shows("<b.txt"));
+}

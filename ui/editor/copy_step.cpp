@@ -1,0 +1,62 @@
+#include "ui/editor/copy_step.h"
+
+#include "engine/commands/vellumark_command.h"
+#include "platform/clipboard.h"
+#include "store/last_command.h"
+#include "ui/dialogs/checksum_compare_dlg.h"
+#include "ui/text.h"
+
+#include <QDebug>
+#include <QEventLoopLocker>
+#include <QMessageBox>
+
+namespace {
+
+void keep_as_last_run(const VellumarkCommand& command)
+{
+    try {
+        write_last_command(command);
+    } catch (const std::exception& error) {
+        // The text is where the user wants it; the next start just selects another command.
+        qDebug() << "The last command can't be kept:" << error.what();
+    }
+}
+
+}
+
+bool CopyStep::run(const VellumarkCommand* command, const MVItemsSet& selection, const QString& text)
+{
+    // Without a window the program would end between a comparison and what follows it.
+    const QEventLoopLocker stay;
+    if (command && is_declined(*command, selection, text))
+        return true;
+    if (!copy(text))
+        return false;
+    if (command)
+        keep_as_last_run(*command);
+    return true;
+}
+
+bool CopyStep::is_declined(const VellumarkCommand& command, const MVItemsSet& selection, const QString& text)
+{
+    const auto comparison = compare_with_clipboard(clipboard_, command, selection, from_qstring(text));
+    if (!comparison)
+        return false;
+    window_.hide();
+    return ChecksumCompareDlg(*comparison, nullptr).exec() != QDialog::Accepted;
+}
+
+bool CopyStep::copy(const QString& text)
+{
+    platform::OpenClipboard opened(clipboard_);
+    if (!opened)
+        return warn(tr("Failed to open Windows clipboard"));
+    return opened.replace_text(from_qstring(text)) || warn(tr("Failed to copy text to Windows clipboard"));
+}
+
+bool CopyStep::warn(const QString& sentence)
+{
+    window_.show();
+    QMessageBox::warning(&window_, QCoreApplication::applicationName(), sentence);
+    return false;
+}

@@ -1,0 +1,112 @@
+#include "ui/editor/vellumark_controller.h"
+
+#include "ui/app_services.h"
+#include "ui/editor/copy_step.h"
+#include "ui/editor/vellumark_main_widget.h"
+#include "ui/preview/wait_for_text_dlg.h"
+
+VellumarkController::VellumarkController(AppServices& app, platform::Clipboard& clipboard, QObject* parent)
+    : CommandControllerBase(app, parent), clipboard_(clipboard),
+      generator_(app.selected_items(), app.selection_readers())
+{
+    connect(&generator_, &PreviewGenerator::text_updating, this, &VellumarkController::on_preview_text_updating);
+    connect(&generator_, &PreviewGenerator::text_ready, this, &VellumarkController::on_preview_text_ready);
+}
+
+CommandMainWidgetBase* VellumarkController::create_main_widget(QWidget* parent)
+{
+    page_ = new VellumarkMainWidget(app(), *this, parent);
+    set_main_widget(page_);
+    connect(&generator_, &PreviewGenerator::progress_changed, page_, &VellumarkMainWidget::show_preview_progress);
+    return page_;
+}
+
+bool VellumarkController::set_current_command(const std::shared_ptr<MVCommandBase>& command)
+{
+    current_command_ = std::dynamic_pointer_cast<VellumarkCommand>(command);
+    if (!current_command_)
+        return false;
+    show_command();
+    emit current_command_changed();
+    return true;
+}
+
+void VellumarkController::refresh()
+{
+    if (!current_command_)
+        return;
+    show_command();
+    emit current_command_changed();
+}
+
+void VellumarkController::show_command()
+{
+    page_->set_command(current_command_);
+    generator_.set_command(current_command_);
+}
+
+void VellumarkController::begin_update()
+{
+    generator_.begin_batch();
+}
+
+void VellumarkController::end_update()
+{
+    if (generator_.defer_updates())
+        refresh();
+}
+
+void VellumarkController::set_expanded(bool expanded)
+{
+    page_->set_expanded(expanded);
+}
+
+bool VellumarkController::run_current_command()
+{
+    if (!generator_.is_updating())
+        return copy_text();
+    open_wait_dialog();
+    return false;
+}
+
+void VellumarkController::open_wait_dialog()
+{
+    auto* dialog = new WaitForTextDlg(page_->window());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::finished, this, &VellumarkController::waiting_for_text_dlg_finished);
+    connect(&generator_, &PreviewGenerator::progress_changed, dialog, &WaitForTextDlg::show_progress);
+    wait_dialog_ = dialog;
+    dialog->open();
+}
+
+bool VellumarkController::copy_text()
+{
+    return CopyStep(clipboard_, *page_->window())
+        .run(current_command_.get(), *app().selected_items(), generator_.text());
+}
+
+void VellumarkController::update_after_curr_command_changed()
+{
+    generator_.set_command(current_command_);
+    emit current_command_changed();
+}
+
+void VellumarkController::on_preview_text_updating()
+{
+    page_->show_preview_updating();
+}
+
+void VellumarkController::on_preview_text_ready(const QString& text)
+{
+    page_->set_preview_text(text);
+    if (!wait_dialog_)
+        return;
+    wait_dialog_->close();
+    if (copy_text())
+        app().close_with_accept();
+}
+
+void VellumarkController::waiting_for_text_dlg_finished()
+{
+    wait_dialog_ = nullptr;
+}
