@@ -1,7 +1,7 @@
 #include "app/editors.h"
 #include "app/mirvanta_app.h"
 #include "app/program.h"
-#include "platform/clipboard.h"
+#include "ui/clipboard/system_clipboard.h"
 
 #include <QApplication>
 
@@ -10,8 +10,8 @@ int main(int argc, char* argv[])
     Program::prepare();
     QApplication application(argc, argv);
     const Program program(application);
-    const auto clipboard = platform::make_clipboard();
-    MirvantaApp window(editors_with(*clipboard));
+    SystemClipboard clipboard;
+    MirvantaApp window(editors_with(clipboard));
     // The window is hidden already when a comparison of checksums ends the run.
     QObject::connect(&window, &QDialog::finished, &application, &QCoreApplication::quit);
     window.show();

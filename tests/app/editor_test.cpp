@@ -70,7 +70,7 @@ TEST_F(EditorTest, ShowsTheTextAndCopiesIt)
     press("OK");
     EXPECT_FALSE(app->isVisible());
     EXPECT_EQ(clipboard.text, u"a.txt,b.txt");
-    EXPECT_EQ(clipboard.calls, "open empty set close ");
+    EXPECT_EQ(clipboard.calls, "oesc");
     ASSERT_TRUE(read_last_command());
     EXPECT_EQ(read_last_command()->name(), u"Names");
 }
@@ -78,18 +78,17 @@ TEST_F(EditorTest, ShowsTheTextAndCopiesIt)
 TEST_F(EditorTest, TellsWhatFailedAndStays)
 {
     struct Case {
-        const char* fails_at;
+        bool FakeClipboard::*fails;
         std::string_view box, calls;
     };
 
+    constexpr std::string_view no_copy = "Vellumark Configure|Failed to copy text to Windows clipboard|OK\n";
     open_with({path_of("a.txt", ""), path_of("b.txt", "")});
     EXPECT_TRUE(shows("0000000000000000"));
     for (const Case& c :
-         {Case{"open", "Vellumark Configure|Failed to open Windows clipboard|OK\n", "open "},
-          Case{"empty", "Vellumark Configure|Failed to copy text to Windows clipboard|OK\n", "open empty close "},
-          Case{"set", "Vellumark Configure|Failed to copy text to Windows clipboard|OK\n",
-               "open empty set close "}}) {
-        clipboard.fails_at = c.fails_at;
+         {Case{&FakeClipboard::can_open, "Vellumark Configure|Failed to open Windows clipboard|OK\n", "o"},
+          Case{&FakeClipboard::can_empty, no_copy, "oec"}, Case{&FakeClipboard::can_set, no_copy, "oesc"}}) {
+        clipboard.*c.fails = false;
         clipboard.calls.clear();
         const BoxAnswer box({"OK"});
         press("OK");
@@ -97,6 +96,7 @@ TEST_F(EditorTest, TellsWhatFailedAndStays)
         EXPECT_EQ(clipboard.calls, c.calls);
         EXPECT_TRUE(app->isVisible());
         EXPECT_FALSE(read_last_command());
+        clipboard.*c.fails = true;
     }
 }
 
@@ -115,7 +115,7 @@ TEST_F(EditorTest, ComparesOneChecksumWithTheClipboard)
         EXPECT_EQ(clipboard.text, copied);
     }
     clipboard.text = u"0xCBF43926";
-    clipboard.fails_at = "set";
+    clipboard.can_set = false;
     open_with({path_of("a.txt", "123456789")});
     EXPECT_TRUE(shows("cbf43926"));
     const BoxAnswer box({"OK"});

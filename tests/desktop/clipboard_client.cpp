@@ -1,13 +1,17 @@
 // A program that copies and ends, or reads: what the application does with the clipboard, without its window. Texts
 // are UTF-16 in this machine's byte order, so that malformed ones can be had.
 //
-//     clipboard_client set < TEXT      prints the milliseconds that it took, or "failed"
+//     clipboard_client set < TEXT      prints the milliseconds that it took, or what failed
 //     clipboard_client stay < TEXT     the same, then waits for a signal
 //     clipboard_client read > TEXT     status 1 when there is none
+//     clipboard_client own > TEXT      reads a text that it has copied by the toolkit's means
 
-#include "platform/clipboard.h"
+#include "ui/clipboard/system_clipboard.h"
 
 #include <unistd.h>
+
+#include <QClipboard>
+#include <QGuiApplication>
 
 #include <array>
 #include <chrono>
@@ -35,7 +39,7 @@ int set(platform::Clipboard& clipboard)
     const auto start = steady_clock::now();
     platform::OpenClipboard opened(clipboard);
     if (!opened || !opened.replace_text(text)) {
-        std::cout << (opened ? "failed" : "not opened") << std::endl;
+        std::cout << (opened ? "not set" : "not opened") << std::endl;
         return 1;
     }
     std::cout << duration_cast<milliseconds>(steady_clock::now() - start).count() << std::endl;
@@ -58,10 +62,13 @@ int read(platform::Clipboard& clipboard)
 int main(int argc, char* argv[])
 {
     const std::string_view work = argc > 1 ? argv[1] : "";
-    const auto clipboard = platform::make_clipboard();
-    if (work == "read")
-        return read(*clipboard);
-    const int status = set(*clipboard);
+    const QGuiApplication application(argc, argv);
+    SystemClipboard clipboard;
+    if (work == "own")
+        QGuiApplication::clipboard()->setText("own");
+    if (work == "own" || work == "read")
+        return read(clipboard);
+    const int status = set(clipboard);
     if (work == "stay")
         pause();
     return status;

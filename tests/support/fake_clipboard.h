@@ -2,40 +2,42 @@
 
 #include "platform/clipboard.h"
 
+#include <optional>
 #include <string>
 
-/// A clipboard in memory. Calls are written down; one can be made to fail.
+/// A clipboard whose every step can be made to fail, and which knows how it was used.
 class FakeClipboard final : public platform::Clipboard
 {
 public:
-    bool open() override { return call("open"); }
+    bool can_open = true, can_empty = true, can_set = true;
+    std::optional<std::u16string> text; ///< what is there, also to be read
+    std::string calls;                  ///< one letter each: (o)pen, (e)mpty, (s)et, (r)ead, (c)lose
 
-    bool empty() override { return call("empty"); }
-
-    bool set_text(std::u16string_view new_text) override
+    bool open() override
     {
-        if (!call("set"))
-            return false;
-        text = new_text;
-        return true;
+        calls += 'o';
+        return can_open;
+    }
+
+    bool empty() override
+    {
+        calls += 'e';
+        return can_empty;
+    }
+
+    bool set_text(std::u16string_view value) override
+    {
+        calls += 's';
+        if (can_set)
+            text = value;
+        return can_set;
     }
 
     std::optional<std::u16string> read_text() override
     {
-        call("read");
+        calls += 'r';
         return text;
     }
 
-    void close() override { call("close"); }
-
-    std::optional<std::u16string> text;
-    std::string calls;
-    std::string fails_at; ///< the name of the call that fails
-
-private:
-    bool call(const std::string& name)
-    {
-        calls += name + " ";
-        return name != fails_at;
-    }
+    void close() override { calls += 'c'; }
 };

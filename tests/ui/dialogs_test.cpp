@@ -13,12 +13,10 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QClipboard>
 #include <QDesktopServices>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMimeData>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
@@ -108,7 +106,7 @@ TEST(ChecksumCompareDlg, ShowsBothChecksumsReadably)
     const QPalette dark(QColor(0x30, 0x30, 0x30));
     QApplication::setPalette(dark);
     for (const bool equal : {true, false}) {
-        const ChecksumComparison comparison{u"ABCD", equal ? u"abcd" : u"<b>1", "CRC32", equal};
+        const ChecksumComparison comparison{u"ABCD", equal ? u"abcd" : u"<b>1", u"CRC32", equal};
         ChecksumCompareDlg dialog(comparison);
         ASSERT_NE(dialog.palette().color(QPalette::WindowText), QColor(Qt::black));
         EXPECT_EQ(label_texts(dialog),
@@ -124,7 +122,7 @@ TEST(ChecksumCompareDlg, ShowsBothChecksumsReadably)
     QApplication::setPalette(before);
 }
 
-TEST(CompareWithClipboard, AsksOtherProgramsAndThisOne)
+TEST(CompareWithClipboard, ReadsWhenItMattersAndAlwaysCloses)
 {
     const TempFolder folder;
     const MVItemsSet set(folder.write("file"));
@@ -132,21 +130,29 @@ TEST(CompareWithClipboard, AsksOtherProgramsAndThisOne)
         boost::json::parse(
             R"({"name": "sums", "separator": "", "fileParts": [{"item-type": "checksum", "checksum-type": "crc32"}]})")
             .as_object());
-    FakeClipboard clipboard;
-    EXPECT_FALSE(compare_with_clipboard(clipboard, command, set, u"cbf43926")) << "holds no text";
-    clipboard.text = u"CRC32: 0xCBF43926";
-    const auto comparison = compare_with_clipboard(clipboard, command, set, u"cbf43926");
-    ASSERT_TRUE(comparison);
-    EXPECT_EQ(comparison->clipboard_checksum, u"CBF43926");
-    EXPECT_TRUE(comparison->matches);
-    EXPECT_EQ(clipboard.calls, "open read close open read close ");
-    clipboard.fails_at = "open";
-    EXPECT_FALSE(compare_with_clipboard(clipboard, command, set, u"cbf43926"));
 
-    QClipboard& own = *QApplication::clipboard();
-    own.setText("cbf43927");
-    EXPECT_FALSE(compare_with_clipboard(clipboard, command, set, u"cbf43926")->matches) << "copied in this program";
-    own.clear();
+    struct Case {
+        std::optional<std::u16string> copied;
+        std::u16string_view generated;
+        bool can_open, found;
+        std::string_view calls;
+    };
+
+    for (const Case& c : std::initializer_list<Case>{{u"CRC32: 0xCBF43926", u"cbf43926", true, true, "orc"},
+                                                     {std::nullopt, u"cbf43926", true, false, "orc"},
+                                                     {u"CBF43926", u"cbf43926", false, false, "o"},
+                                                     {u"CBF43926", u"", true, false, ""}}) {
+        FakeClipboard clipboard;
+        clipboard.text = c.copied;
+        clipboard.can_open = c.can_open;
+        const auto comparison = compare_with_clipboard(clipboard, command, set, c.generated);
+        EXPECT_EQ(comparison.has_value(), c.found);
+        EXPECT_EQ(clipboard.calls, c.calls);
+        if (comparison) {
+            EXPECT_EQ(comparison->clipboard_checksum, u"CBF43926");
+            EXPECT_TRUE(comparison->matches);
+        }
+    }
 }
 
 /// Takes the place of the desktop's browser.

@@ -1,26 +1,17 @@
 #include "ui/dialogs/checksum_compare_dlg.h"
 
-#include "platform/clipboard.h"
 #include "ui/text.h"
 
-#include <QClipboard>
 #include <QDialogButtonBox>
 #include <QFontDatabase>
 #include <QGridLayout>
-#include <QGuiApplication>
 #include <QLabel>
-#include <QMimeData>
 #include <QVBoxLayout>
 
 namespace {
 
-/// A text that the user copied out of this program isn't told by another one.
-std::optional<std::u16string> text_in(platform::Clipboard& clipboard)
+std::optional<std::u16string> clipboard_text(platform::Clipboard& clipboard)
 {
-    if (const QClipboard& own = *QGuiApplication::clipboard(); own.ownsClipboard()) {
-        const QMimeData* data = own.mimeData();
-        return data && data->hasText() ? std::optional(from_qstring(data->text())) : std::nullopt;
-    }
     platform::OpenClipboard opened(clipboard);
     return opened ? opened.read_text() : std::nullopt;
 }
@@ -68,7 +59,7 @@ std::optional<ChecksumComparison> compare_with_clipboard(platform::Clipboard& cl
                                                          const VellumarkCommand& command, const MVItemsSet& items,
                                                          std::u16string_view text)
 {
-    return compare_checksum(command, items, text, [&clipboard] { return text_in(clipboard); });
+    return compare_checksum(command, items, text, [&] { return clipboard_text(clipboard); });
 }
 
 ChecksumCompareDlg::ChecksumCompareDlg(const ChecksumComparison& comparison, QWidget* parent) : QDialog(parent)

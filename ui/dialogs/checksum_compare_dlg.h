@@ -1,15 +1,11 @@
 #pragma once
 
 #include "engine/commands/checksum_comparison.h"
+#include "platform/clipboard.h"
 
 #include <QDialog>
 
-namespace platform {
-class Clipboard;
-}
-
-/// `compare_checksum` with what is in the clipboard; a clipboard that can't be opened gives no comparison. Main
-/// thread only.
+/// `compare_checksum` with the clipboard, which is opened only when it can matter and closed again. Main thread only.
 std::optional<ChecksumComparison> compare_with_clipboard(platform::Clipboard& clipboard,
                                                          const VellumarkCommand& command, const MVItemsSet& items,
                                                          std::u16string_view text);
