@@ -14,7 +14,8 @@ declare -Ar groups=(
         libssl-dev
         libexif-dev libtag1-dev libmediainfo-dev libqpdf-dev libzip-dev
         libboost-json1.81-dev libboost-filesystem1.81-dev libboost-regex1.81-dev libboost-program-options1.81-dev"
-    [test]="libgtest-dev python3 strace"
+    [test]="libgtest-dev python3 strace
+        xvfb openbox xdotool xclip x11-utils imagemagick dbus-daemon at-spi2-core python3-pyatspi"
     [lint]="git python3 clang-format clang-tidy-16 shellcheck"
     [bench]="libbenchmark-dev python3 openssl xxhash rhash findutils libimage-exiftool-perl"
     [fuzz]="clang-16 libclang-rt-16-dev"

@@ -1,0 +1,59 @@
+"""What a screen reader sees of a program. To be imported when the desktop is there: the library looks for its bus at
+once."""
+
+import pyatspi
+
+from desktop import wait_until
+
+
+def application(name):
+    """The root of the running program of this name."""
+
+    def search():
+        return next((child for child in pyatspi.Registry.getDesktop(0) if child and child.name == name), None)
+
+    return wait_until(search, f"the accessible program '{name}'")
+
+
+def walk(node):
+    """The node and all below it, a parent before its children. What goes away meanwhile is left out."""
+    yield node
+    try:
+        children = [node.getChildAtIndex(i) for i in range(node.childCount)]
+    except LookupError:
+        return
+    for child in children:
+        if child is not None:
+            yield from walk(child)
+
+
+def is_showing(node):
+    return node.getState().contains(pyatspi.STATE_SHOWING)
+
+
+def find_all(root, role=None, name=None, showing=True):
+    """Nodes below `root` by role ("push button", "label", "text", "table cell", ...) and name."""
+    return [
+        node
+        for node in walk(root)
+        if (role is None or node.getRoleName() == role)
+        and (name is None or node.name == name)
+        and (not showing or is_showing(node))
+    ]
+
+
+def find(root, role=None, name=None, showing=True):
+    """The first such node, once there is one."""
+    return wait_until(lambda: find_all(root, role, name, showing), f"'{name}', a {role}")[0]
+
+
+def text_of(node):
+    """The content of a text field."""
+    text = node.queryText()
+    return text.getText(0, text.characterCount)
+
+
+def press(node):
+    """A push of a button, or whatever the node's first action is."""
+    if not node.queryAction().doAction(0):
+        raise AssertionError(f"'{node.name}' can't be pressed")
