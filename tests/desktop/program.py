@@ -37,6 +37,7 @@ class Program:
         self.runtime = self.home + "/runtime"
         os.mkdir(self.runtime, 0o700)
         self.environment = os.environ | {"XDG_CONFIG_HOME": self.home, "XDG_RUNTIME_DIR": self.runtime}
+        self.pipe = self.runtime + "/com.mirvanta.vellumark.api-1"
         self.settings = self.home + "/Mirvanta/Vellumark"
         self.process = self.window = self.root = None
 
@@ -75,17 +76,23 @@ class Program:
         self.process = self.desktop.start(
             FOLDER + "/VellumarkConfigure", env=self.environment | environment, stderr=subprocess.PIPE
         )
-        self.window = self.desktop.wait_for_window(TITLE)
-        self.attach()
+        self.attach(self.process.pid)
 
-    def attach(self):
-        self.root = wait_until(lambda: self._dialog(self.window_process()), "the accessible window")
+    def attach(self, process=None):
+        """Finds the window of the process, or of whichever runs, and brings it to the front."""
+        self.window = wait_until(lambda: self._window_of(process), "the window")
+        self.root = wait_until(self._find_root, "the accessible window")
         self.desktop.focus(self.window)
 
-    def window_process(self):
-        return int(self.desktop.ask("xdotool", "getwindowpid", self.window) or 0)
+    def window_process(self, window):
+        return int(self.desktop.ask("xdotool", "getwindowpid", window) or 0)
 
-    def _dialog(self, process):
+    def _window_of(self, process):
+        windows = self.desktop.windows(TITLE)
+        return next((w for w in windows if process in (None, self.window_process(w))), None)
+
+    def _find_root(self):
+        process = self.window_process(self.window)
         for application in pyatspi.Registry.getDesktop(0):
             if application and application.get_process_id() == process and application.childCount:
                 return application
@@ -103,7 +110,7 @@ class Program:
     def send(self, message):
         """Bytes to the socket as one message."""
         with socket.socket(socket.AF_UNIX) as client:
-            client.connect(self.runtime + "/com.mirvanta.vellumark.api-1")
+            client.connect(self.pipe)
             client.sendall(message)
 
     def wait_for_end(self):
