@@ -137,6 +137,7 @@ TEST_F(AppTest, ShowsHelpAndAbout)
     for (QToolButton* tool : app->findChildren<QToolButton*>())
         if (tool->text() == "About")
             tool->click();
+    EXPECT_TRUE(QTest::qWaitFor([&box] { return !box.seen().empty(); }));
     EXPECT_EQ(box.seen(), "About Vellumark||OK\n");
 }
 
