@@ -36,7 +36,10 @@ class Program:
         self.home = tempfile.mkdtemp(dir=desktop.home)
         self.runtime = self.home + "/runtime"
         os.mkdir(self.runtime, 0o700)
-        self.environment = os.environ | {"XDG_CONFIG_HOME": self.home, "XDG_RUNTIME_DIR": self.runtime}
+        # The developer's own choice of a look is none of the tests' business.
+        own_look = ("QT_SCALE", "QT_QPA", "QT_STYLE", "XDG_CURRENT", "KDE_")
+        self.environment = {name: value for name, value in os.environ.items() if not name.startswith(own_look)}
+        self.environment |= {"XDG_CONFIG_HOME": self.home, "XDG_RUNTIME_DIR": self.runtime}
         self.pipe = self.runtime + "/com.mirvanta.vellumark.api-1"
         self.settings = self.home + "/Mirvanta/Vellumark"
         self.process = self.window = self.root = None
@@ -158,9 +161,12 @@ class Program:
         return bool(accessibility.find_all(self.root, "push button", "Save"))
 
     def choose_from_menu(self, row, entry):
-        """Opens the menu of a row of the menu's list with the mouse and takes an entry with the keys. A toolkit's menu
-        can't be found from its window, so the entry is counted."""
+        """Opens the menu of a row in the menu's list with the mouse, and takes an entry."""
         self.click(self.cell(row), button=3)
+        self.choose_from_open_menu(entry)
+
+    def choose_from_open_menu(self, entry):
+        """By the keys. A toolkit's menu can't be found from its window, so the entry is counted."""
         self.desktop.key(*["Down"] * (MENU_ENTRIES.index(entry) + 1), "Return")
 
     def drag(self, row, gap):
@@ -172,6 +178,9 @@ class Program:
     def rename_in_place(self, row, name):
         self.click(self.cell(row))
         wait_until(lambda: self.selected() == [row], "the row's selection")
+        self.rename_current(name)
+
+    def rename_current(self, name):
         self.desktop.key("F2")
         self.desktop.type(name)
         self.desktop.key("Return")
