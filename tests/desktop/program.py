@@ -14,7 +14,7 @@ from desktop import HANG, wait_until
 
 FOLDER = os.environ["PROGRAMS"]
 TITLE = "^Vellumark Configure$"
-NAME_COLUMN, MENU_COLUMN = 1, 2
+NAME_COLUMN = 1
 MENU_ENTRIES = ("Rename", "Delete", "Move to Commands Library")
 UNSAVED, NOT_SHOWN = ", unsaved changes", ", not shown for this selection"
 
@@ -22,10 +22,6 @@ UNSAVED, NOT_SHOWN = ", unsaved changes", ", not shown for this selection"
 def shipped_commands():
     with open(FOLDER + "/VKCmds.json", encoding="utf-8") as file:
         return json.load(file)
-
-
-def has_state(node, state):
-    return node.getState().contains(state)
 
 
 class Program:
@@ -52,7 +48,6 @@ class Program:
 
     def write_commands(self, menu, library=()):
         """Stored commands of these names; one that starts with "<" is built-in, such as "<Configure"."""
-
         template = shipped_commands()["menuCommands"][0]
 
         def command(name):
@@ -126,18 +121,21 @@ class Program:
     def table(self, name="Context Menu Commands"):
         return accessibility.find(self.root, "table", name)
 
-    def cell(self, row, column=NAME_COLUMN, **table):
-        return self.table(**table).queryTable().getAccessibleAt(row, column)
+    def cells(self, **table):
+        """The names' cells, one a row."""
+        cells = self.table(**table).queryTable()
+        return [cells.getAccessibleAt(row, NAME_COLUMN) for row in range(cells.nRows)]
+
+    def cell(self, row, **table):
+        return self.cells(**table)[row]
 
     def rows(self, **table):
-        cells = self.table(**table).queryTable()
-        return [cells.getAccessibleAt(row, NAME_COLUMN).name for row in range(cells.nRows)]
+        return [cell.name for cell in self.cells(**table)]
 
     def selected(self, **table):
         """Numbers of the selected rows."""
-        cells = self.table(**table).queryTable()
-        chosen = [cells.getAccessibleAt(row, NAME_COLUMN) for row in range(cells.nRows)]
-        return [row for row, cell in enumerate(chosen) if has_state(cell, pyatspi.STATE_SELECTED)]
+        chosen = [cell.getState().contains(pyatspi.STATE_SELECTED) for cell in self.cells(**table)]
+        return [row for row, is_chosen in enumerate(chosen) if is_chosen]
 
     def middle(self, node):
         """Where to click it, on the screen."""
