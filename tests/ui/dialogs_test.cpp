@@ -1,6 +1,7 @@
 #include "engine/commands/vellumark_command.h"
 #include "engine/items/mv_items_set.h"
 #include "store/mv_command_builtin.h"
+#include "support/fake_clipboard.h"
 #include "support/temp_folder.h"
 #include "ui/app_services.h"
 #include "ui/dialogs/about_dlg.h"
@@ -12,12 +13,10 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QClipboard>
 #include <QDesktopServices>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMimeData>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
@@ -123,7 +122,7 @@ TEST(ChecksumCompareDlg, ShowsBothChecksumsReadably)
     QApplication::setPalette(before);
 }
 
-TEST(CompareWithClipboard, ReadsTextAloneAndLeavesItThere)
+TEST(CompareWithClipboard, ReadsWhenItMattersAndAlwaysCloses)
 {
     const TempFolder folder;
     const MVItemsSet set(folder.write("file"));
@@ -131,18 +130,29 @@ TEST(CompareWithClipboard, ReadsTextAloneAndLeavesItThere)
         boost::json::parse(
             R"({"name": "sums", "separator": "", "fileParts": [{"item-type": "checksum", "checksum-type": "crc32"}]})")
             .as_object());
-    QClipboard& clipboard = *QApplication::clipboard();
-    clipboard.setText("CRC32: 0xCBF43926");
-    const auto comparison = compare_with_clipboard(command, set, u"cbf43926");
-    ASSERT_TRUE(comparison);
-    EXPECT_EQ(comparison->copied, u"CBF43926");
-    EXPECT_TRUE(comparison->equal);
-    EXPECT_EQ(clipboard.text(), "CRC32: 0xCBF43926");
 
-    auto* picture = new QMimeData;
-    picture->setData("image/png", "cbf43926");
-    clipboard.setMimeData(picture);
-    EXPECT_FALSE(compare_with_clipboard(command, set, u"cbf43926"));
+    struct Case {
+        std::optional<std::u16string> copied;
+        std::u16string_view generated;
+        bool can_open, found;
+        std::string_view calls;
+    };
+
+    for (const Case& c : std::initializer_list<Case>{{u"CRC32: 0xCBF43926", u"cbf43926", true, true, "orc"},
+                                                     {std::nullopt, u"cbf43926", true, false, "orc"},
+                                                     {u"CBF43926", u"cbf43926", false, false, "o"},
+                                                     {u"CBF43926", u"", true, false, ""}}) {
+        FakeClipboard clipboard;
+        clipboard.text = c.copied;
+        clipboard.can_open = c.can_open;
+        const auto comparison = compare_with_clipboard(clipboard, command, set, c.generated);
+        EXPECT_EQ(comparison.has_value(), c.found);
+        EXPECT_EQ(clipboard.calls, c.calls);
+        if (comparison) {
+            EXPECT_EQ(comparison->copied, u"CBF43926");
+            EXPECT_TRUE(comparison->equal);
+        }
+    }
 }
 
 /// Takes the place of the desktop's browser.

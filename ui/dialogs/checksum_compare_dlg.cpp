@@ -2,23 +2,18 @@
 
 #include "ui/text.h"
 
-#include <QClipboard>
 #include <QDialogButtonBox>
 #include <QFontDatabase>
 #include <QGridLayout>
-#include <QGuiApplication>
 #include <QLabel>
-#include <QMimeData>
 #include <QVBoxLayout>
 
 namespace {
 
-std::optional<std::u16string> clipboard_text()
+std::optional<std::u16string> clipboard_text(platform::Clipboard& clipboard)
 {
-    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-    if (!data || !data->hasText())
-        return std::nullopt;
-    return from_qstring(data->text());
+    platform::OpenClipboard opened(clipboard);
+    return opened ? opened.read_text() : std::nullopt;
 }
 
 QLabel* checksum_label(std::u16string_view checksum)
@@ -60,10 +55,11 @@ void add_row(QGridLayout& grid, const QString& name, std::u16string_view checksu
 
 }
 
-std::optional<ChecksumComparison> compare_with_clipboard(const VellumarkCommand& command, const MVItemsSet& items,
+std::optional<ChecksumComparison> compare_with_clipboard(platform::Clipboard& clipboard,
+                                                         const VellumarkCommand& command, const MVItemsSet& items,
                                                          std::u16string_view text)
 {
-    return compare_checksum(command, items, text, clipboard_text);
+    return compare_checksum(command, items, text, [&] { return clipboard_text(clipboard); });
 }
 
 ChecksumCompareDlg::ChecksumCompareDlg(const ChecksumComparison& comparison, QWidget* parent) : QDialog(parent)
