@@ -298,7 +298,10 @@ bool MirvantaApp::save_commands_list()
 
 void MirvantaApp::on_about()
 {
-    AboutDlg(this).exec();
+    auto* dialog = new AboutDlg(this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    // Whoever asked for it, such as a screen reader, does not wait until it is read.
+    dialog->open();
 }
 
 void MirvantaApp::keyPressEvent(QKeyEvent* event)

@@ -107,7 +107,9 @@ TEST_F(EditorTest, ComparesOneChecksumWithTheClipboard)
         open_with({path_of("a.txt", "123456789")});
         EXPECT_TRUE(shows("cbf43926"));
         bool was_hidden = false;
-        QTimer::singleShot(100, app.get(), [&] { was_hidden = !app->isVisible(); });
+        QTimer watch;
+        QObject::connect(&watch, &QTimer::timeout, [&] { was_hidden |= !app->isVisible(); });
+        watch.start(0);
         const BoxAnswer box({answer});
         press("OK");
         EXPECT_TRUE(was_hidden);

@@ -103,10 +103,11 @@ std::string findings(const QWidget& window)
     return found.join('\n').toStdString();
 }
 
-/// The same for the box or dialog that `open` runs, which is closed then.
+/// The same for the box or dialog that `open` runs or leaves open, which is closed then.
 std::string findings_of_dialog(const std::function<void()>& open)
 {
-    std::string found = "no dialog";
+    const std::string none = "no dialog";
+    std::string found = none;
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
         if (QWidget* dialog = QApplication::activeModalWidget()) {
@@ -116,6 +117,7 @@ std::string findings_of_dialog(const std::function<void()>& open)
     });
     timer.start(0);
     open();
+    [[maybe_unused]] const bool seen = QTest::qWaitFor([&] { return found != none; });
     return found;
 }
 

@@ -138,6 +138,7 @@ TEST_F(AppTest, ShowsHelpAndAbout)
     for (QToolButton* tool : app->findChildren<QToolButton*>())
         if (tool->text() == "About")
             tool->click();
+    EXPECT_TRUE(QTest::qWaitFor([&box] { return !box.seen().empty(); }));
     EXPECT_EQ(box.seen(), "About Vellumark||OK\n");
 }
 
@@ -154,6 +155,12 @@ TEST(Appearance, FollowsTheDesktop)
             QApplication::setPalette(palette);
             EXPECT_EQ(colours::dark_mode(), dark);
         }
+        QPalette careless = before;
+        careless.setColor(QPalette::Base, Qt::black);
+        careless.setColor(QPalette::Text, Qt::white);
+        careless.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 128));
+        QApplication::setPalette(careless);
+        EXPECT_EQ(QApplication::palette().color(QPalette::PlaceholderText), QColor(255, 255, 255, 128));
         QApplication::setPalette(before);
         EXPECT_FALSE(colours::dark_mode());
     }

@@ -1,0 +1,132 @@
+"""How the windows look: pictures for the eye, kept with the build, and what of them can be counted."""
+
+import os
+import unittest
+
+import accessibility
+from desktop import Desktop, wait_until
+from program import TITLE, UNSAVED, ProgramTest
+
+PICTURES = os.environ["PICTURES"]
+SAMPLES = os.environ["SAMPLES"]
+
+# A desktop with dark colours, of a kind whose settings file the toolkit reads without a plugin.
+DARK_VARIABLES = {"QT_QPA_PLATFORMTHEME": "kde", "XDG_CURRENT_DESKTOP": "KDE", "KDE_SESSION_VERSION": "5"}
+DARK_SETTINGS = """[KDE]
+widgetStyle=Fusion
+[Colors:Window]
+BackgroundNormal=42,46,50
+ForegroundNormal=252,252,252
+[Colors:View]
+BackgroundNormal=27,30,32
+BackgroundAlternate=35,38,41
+ForegroundNormal=252,252,252
+ForegroundLink=29,153,243
+ForegroundVisited=155,89,182
+[Colors:Button]
+BackgroundNormal=49,54,59
+ForegroundNormal=252,252,252
+[Colors:Selection]
+BackgroundNormal=29,99,140
+ForegroundNormal=252,252,252
+[Colors:Tooltip]
+BackgroundNormal=49,54,59
+ForegroundNormal=252,252,252
+"""
+
+
+def setUpModule():
+    os.makedirs(PICTURES, exist_ok=True)
+    ProgramTest.desktop = Desktop("1600x1400")
+    unittest.addModuleCleanup(ProgramTest.desktop.close)
+
+
+class Look(ProgramTest):
+    def start(self, is_dark=False, **environment):
+        if is_dark:
+            with open(self.program.home + "/kdeglobals", "w", encoding="utf-8") as file:
+                file.write(DARK_SETTINGS)
+        self.program.start(**environment, **(DARK_VARIABLES if is_dark else {}))
+
+    def take(self, name, window=None):
+        path = f"{PICTURES}/{name}.png"
+        self.desktop.screenshot(path, window or self.program.window)
+        return path
+
+    def measure(self, picture, *steps):
+        """The mean lightness, 0 to 1, of the picture after these steps."""
+        return float(self.desktop.ask("convert", picture, *steps, "-format", "%[fx:mean]", "info:"))
+
+    def holds(self, picture, colour):
+        """Whether a pixel is of exactly this colour."""
+        return self.measure(picture, "-fill", "black", "+opaque", colour, "-fill", "white", "-opaque", colour) > 0
+
+    def change_and_select(self):
+        """Brings the window to where it has a selection and an unsaved command."""
+        entries = [f"{SAMPLES}/{name}" for name in sorted(os.listdir(SAMPLES))]
+        self.assertEqual(self.program.select("--index", "2", "--", *entries), (0, ""))
+        self.wait_for([2], self.program.selected)
+        self.program.rename_current("Copy Paths")
+        self.wait_for("Copy Paths" + UNSAVED, lambda: self.program.cell(2).name)
+        self.desktop.key("Up", "Up")
+        self.wait_for([0], self.program.selected)
+
+    def take_dialog(self, name, title):
+        dialog = self.desktop.wait_for_window(title)
+        self.desktop.focus(dialog)
+        path = self.take(name, dialog)
+        self.desktop.key("Escape")
+        self.desktop.wait_for_no_window(title)
+        return path
+
+    def take_windows(self, scheme, colour):
+        """Pictures of the window and its dialogs, the window's once it shows the colour."""
+        self.change_and_select()
+        self.wait_for(True, lambda: self.holds(self.take("window-" + scheme), colour))
+        self.program.press("About")
+        self.take_dialog("about-" + scheme, "^About ")
+        self.desktop.key("shift+F10")
+        self.program.choose_from_open_menu("Rename")
+        self.take_dialog("rename-" + scheme, "^Rename Command$")
+        return f"{PICTURES}/window-{scheme}.png"
+
+    def test_colours(self):
+        shown = {"light": "#0080ff", "dark": "#6ba8ff"}
+        for scheme, other in (("light", "dark"), ("dark", "light")):
+            with self.subTest(scheme):
+                self.start(scheme == "dark")
+                picture = self.take_windows(scheme, shown[scheme])
+                self.assertFalse(self.holds(picture, shown[other]))
+                self.assertEqual(self.measure(picture) < 0.5, scheme == "dark")
+                self.program.press("OK")
+                self.desktop.focus(self.box())
+                self.take("question-" + scheme, self.box())
+                self.program.answer_box("Don't Save")
+                self.check_end()
+
+    def box(self):
+        """The window of the box that stands over the main one."""
+        return wait_until(lambda: set(self.desktop.windows(TITLE)) - {self.program.window}, "the box").pop()
+
+    def test_double_scale(self):
+        self.start()
+        size = self.desktop.geometry(self.program.window)[2:]
+        self.program.press("Cancel")
+        self.check_end()
+        self.start(QT_SCALE_FACTOR="2")
+        self.assertEqual(self.desktop.geometry(self.program.window)[2:], tuple(2 * side for side in size))
+        self.take_windows("double", "#0080ff")
+
+    def test_empty_list(self):
+        self.program.write("VKCmds.json", b"{")
+        self.start()
+        self.take("failure")
+        self.program.answer_box("OK")
+        wait_until(lambda: self.program.window not in self.desktop.windows(TITLE), "the end of the box")
+        self.program.attach()
+        accessibility.find(self.program.root, "push button", "Reset to default commands list")
+        self.take("empty")
+
+
+if __name__ == "__main__":
+    unittest.main()
