@@ -72,7 +72,7 @@ zip_source* make_zip_input(SubjectFile& file)
     auto input = std::make_unique<ZipInput>(file);
     zip_source* const source = zip_source_function_create(serve, input.get(), nullptr);
     if (source)
-        input.release();
+        static_cast<void>(input.release());
     return source;
 }
 
