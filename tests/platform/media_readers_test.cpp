@@ -11,6 +11,7 @@
 #include <sys/prctl.h>
 #include <sys/wait.h>
 
+#include <atomic>
 #include <thread>
 
 using namespace std::chrono_literals;
@@ -24,6 +25,9 @@ std::string real_program()
 {
     return platform::host_program_folder() + "/vellumark-media-reader";
 }
+
+/// For what should take two seconds, on a machine that does much else; what hangs takes a minute.
+constexpr std::chrono::milliseconds generous = 20s;
 
 /// "64" for the sample, "-" without an answer.
 std::string width(MediaReaders& readers, const std::string& host_path = sample)
@@ -95,14 +99,14 @@ TEST(MediaReaders, WithoutAnAnswerThereAreNoTexts)
     };
 
     const Row rows[] = {
-        {folder.host("missing"), 0ms, 1900ms},
-        {folder.host(), 0ms, 1900ms},
-        {"/bin/true", 0ms, 1900ms},
-        {script("nonsense", "printf nonsense >&3; exec sleep 60"), 0ms, 1900ms},
-        {script("dies", R"(printf 'Video;Width\000640' >&3)"), 0ms, 1900ms},
-        {script("endless", R"(while :; do printf 'Video;Width\000640' >&3; done)"), 0ms, 1900ms},
-        {script("silent", "exec sleep 60"), 1990ms, 3000ms},
-        {script("stops", R"(printf 'Video;Width\000640' >&3; exec sleep 60)"), 1990ms, 3000ms},
+        {folder.host("missing"), 0ms, generous},
+        {folder.host(), 0ms, generous},
+        {"/bin/true", 0ms, generous},
+        {script("nonsense", "printf nonsense >&3; exec sleep 60"), 0ms, generous},
+        {script("dies", R"(printf 'Video;Width\000640' >&3)"), 0ms, generous},
+        {script("endless", R"(while :; do printf 'Video;Width\000640' >&3; done)"), 0ms, generous},
+        {script("silent", "exec sleep 60"), 1990ms, generous},
+        {script("stops", R"(printf 'Video;Width\000640' >&3; exec sleep 60)"), 1990ms, generous},
     };
     for (const auto& row : rows) {
         MediaReaders readers(row.program);
@@ -130,7 +134,7 @@ TEST(MediaReaders, LostProgramsAreReplaced)
     }
 
     signal_children(SIGSTOP);
-    EXPECT_LE(time_of([&] { EXPECT_EQ(width(readers), "-"); }), 3s);
+    EXPECT_LE(time_of([&] { EXPECT_EQ(width(readers), "-"); }), generous);
     EXPECT_EQ(child_processes().size(), 0U);
     EXPECT_EQ(width(readers), "64") << "after one that hung";
 }
@@ -146,7 +150,7 @@ TEST(MediaReaders, FilmThatFillsMemory)
     ASSERT_NE(second, film.npos);
     film.replace(second + 8, 4, "\x7F\xFF\xFF\xFF");
     platform::FileProperties damaged(folder.write("damaged.mp4", film));
-    EXPECT_LE(time_of([&] { EXPECT_FALSE(damaged.value(u"System.Video.FrameWidth")); }), 3s);
+    EXPECT_LE(time_of([&] { EXPECT_FALSE(damaged.value(u"System.Video.FrameWidth")); }), generous);
 
     MediaReaders readers(real_program());
     EXPECT_EQ(width(readers), "64");
@@ -184,9 +188,14 @@ TEST(MediaReaders, HungProgramsDelayNobodyElse)
     EXPECT_EQ(width(readers), "64");
     signal_children(SIGSTOP);
     std::string hung;
-    std::jthread waiting([&] { hung = width(readers); });
+    std::atomic<bool> is_answered = false;
+    std::jthread waiting([&] {
+        hung = width(readers);
+        is_answered = true;
+    });
     std::this_thread::sleep_for(100ms);
-    EXPECT_LT(time_of([&] { EXPECT_EQ(width(readers), "64"); }), 1500ms);
+    EXPECT_EQ(width(readers), "64");
+    EXPECT_FALSE(is_answered) << "it waited for the one that hung";
     waiting.join();
     EXPECT_EQ(hung, "-");
 }

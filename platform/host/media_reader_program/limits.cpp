@@ -10,7 +10,8 @@ namespace {
 void limit(__rlimit_resource resource, rlim_t most)
 {
     const rlimit value{most, most};
-    setrlimit(resource, &value);
+    if (setrlimit(resource, &value) != 0)
+        _exit(1);
 }
 
 }

@@ -2,7 +2,8 @@
 
 namespace platform {
 
-/// Once, at the start: little memory, no core file, no written file. What goes beyond ends the program.
+/// Once, at the start: little memory, no core file, no written file. What goes beyond ends the program, and so does
+/// a limit that can't be set.
 void limit_resources();
 
 /// Ends the program unless it is called again within the time that nobody waits for an answer any more. The platform

@@ -8,6 +8,7 @@
 
 #include <sys/stat.h>
 
+#include <cstring>
 #include <vector>
 
 namespace platform {
@@ -45,23 +46,29 @@ std::uint64_t size_of(int file)
 /// Gives the bytes that the library asks for until it has seen enough. A slow disk leaves time for the answer.
 void feed(MediaInfoLib::MediaInfo& info, int file)
 {
-    constexpr std::size_t block_size = 65'536, finished = 8;
+    constexpr std::size_t block_size = 65'536, kept_size = 4096, finished = 8;
     constexpr auto nowhere = static_cast<std::uint64_t>(-1);
     const std::uint64_t size = size_of(file);
     ReadAllowance allowance(std::chrono::milliseconds(1500));
-    std::vector<ZenLib::int8u> block(block_size);
-    const std::string_view bytes(reinterpret_cast<const char*>(block.data()), block.size());
+    // A block stands behind the end of the one before it, so that a header across both is seen whole.
+    std::vector<ZenLib::int8u> bytes(kept_size + block_size);
+    ZenLib::int8u* const block = bytes.data() + kept_size;
+    std::size_t kept = 0;
     std::uint64_t at = 0;
     info.Open_Buffer_Init(size, 0);
     for (;;) {
         const std::size_t count =
-            at < size ? allowance.read_at(file, at, reinterpret_cast<char*>(block.data()), block.size()) : 0;
-        if (count == 0 || !has_honest_comments(bytes.substr(0, count)))
+            at < size ? allowance.read_at(file, at, reinterpret_cast<char*>(block), block_size) : 0;
+        if (count == 0 || !has_honest_comments({reinterpret_cast<const char*>(block) - kept, kept + count}))
             break;
         at += count;
-        if ((info.Open_Buffer_Continue(block.data(), count) & finished) != 0)
+        if ((info.Open_Buffer_Continue(block, count) & finished) != 0)
             break;
+        const std::size_t next_kept = std::min(kept_size, kept + count);
+        std::memmove(block - next_kept, block + count - next_kept, next_kept);
+        kept = next_kept;
         if (const std::uint64_t target = info.Open_Buffer_Continue_GoTo_Get(); target != nowhere) {
+            kept = target == at ? kept : 0;
             at = target;
             info.Open_Buffer_Init(size, at);
         }

@@ -11,7 +11,7 @@ namespace platform {
 
 namespace {
 
-enum class Shape { Whole, Fraction, Ascii, Ucs2, Ucs2List };
+enum class Shape { Whole, Fraction, Positive, Ascii, Ucs2, Ucs2List };
 
 struct TagRow {
     ExifIfd directory;
@@ -39,7 +39,7 @@ constexpr TagRow tags[] = {
     {EXIF_IFD_EXIF, 0xA431, Shape::Ascii, u"System.Photo.CameraSerialNumber"},
     {EXIF_IFD_EXIF, 0xA433, Shape::Ascii, u"System.Photo.LensManufacturer"},
     {EXIF_IFD_EXIF, 0xA434, Shape::Ascii, u"System.Photo.LensModel"},
-    {EXIF_IFD_EXIF, 0x829D, Shape::Fraction, u"System.Photo.FNumber"},
+    {EXIF_IFD_EXIF, 0x829D, Shape::Positive, u"System.Photo.FNumber"},
     {EXIF_IFD_EXIF, 0x829A, Shape::Fraction, u"System.Photo.ExposureTime"},
     {EXIF_IFD_EXIF, 0x8827, Shape::Whole, u"System.Photo.ISOSpeed"},
     {EXIF_IFD_EXIF, 0x9204, Shape::Fraction, u"System.Photo.ExposureBias"},
@@ -70,6 +70,10 @@ void set_tag(const ExifTags& exif, const TagRow& row, PropertyBag& bag)
         break;
     case Shape::Fraction:
         if (number)
+            bag.set(row.name, *number);
+        break;
+    case Shape::Positive:
+        if (number && *number > 0)
             bag.set(row.name, *number);
         break;
     case Shape::Ascii: bag.set_text(row.name, bytes()); break;

@@ -113,12 +113,13 @@ Place place_of(std::uint64_t wanted, std::string_view item_locations)
         const bool is_in_file = version == 0 || (cursor.take(2) & 15) == 0;
         cursor.take(2);
         const std::uint64_t base = cursor.take(size_of(1)), pieces = cursor.take(2);
-        for (std::uint64_t k = 0; k < pieces && !cursor.at_end(); ++k) {
-            cursor.take(version == 0 ? 0 : size_of(0));
-            const std::uint64_t offset = cursor.take(size_of(3)), length = cursor.take(size_of(2));
-            if (item == wanted)
-                return is_in_file ? Place{base + offset, length} : Place();
-        }
+        const std::size_t index_size = version == 0 ? 0 : size_of(0);
+        Cursor piece(cursor.take_bytes(pieces * (index_size + size_of(3) + size_of(2))));
+        if (item != wanted)
+            continue;
+        piece.take(index_size);
+        const std::uint64_t offset = piece.take(size_of(3)), length = piece.take(size_of(2));
+        return is_in_file ? Place{base + offset, length} : Place();
     }
     return {};
 }

@@ -41,7 +41,8 @@ ssize_t uninterrupted(Call call)
 Descriptor taken_descriptor(msghdr& header)
 {
     const cmsghdr* const entry = CMSG_FIRSTHDR(&header);
-    if (!entry || entry->cmsg_type != SCM_RIGHTS || entry->cmsg_len != CMSG_LEN(sizeof(int)))
+    if (!entry || entry->cmsg_level != SOL_SOCKET || entry->cmsg_type != SCM_RIGHTS ||
+        entry->cmsg_len != CMSG_LEN(sizeof(int)))
         return {};
     int descriptor = -1;
     std::memcpy(&descriptor, CMSG_DATA(entry), sizeof descriptor);
@@ -72,7 +73,8 @@ std::optional<MediaRequest> receive_media_request(int socket)
         return {};
     text.resize(static_cast<std::size_t>(count));
     MediaRequest request{taken_descriptor(envelope.header), std::move(text)};
-    return request.file ? std::optional(std::move(request)) : std::nullopt;
+    const bool is_whole = (envelope.header.msg_flags & (MSG_TRUNC | MSG_CTRUNC)) == 0;
+    return request.file && is_whole ? std::optional(std::move(request)) : std::nullopt;
 }
 
 bool send_media_answer(int socket, std::string_view message)

@@ -32,8 +32,8 @@ public:
 private:
     static constexpr std::uint64_t cost_of_read = 256;
 
-    /// Some libraries make fifty bytes of each that they read, and a program must not grow by more than 512 MB.
-    std::uint64_t bytes_ = 8 << 20;
+    /// Some libraries make seventy bytes of each that they read, and a program must not grow by more than 512 MB.
+    std::uint64_t bytes_ = 13 << 19;
     std::chrono::steady_clock::time_point deadline_;
 };
 

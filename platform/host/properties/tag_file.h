@@ -26,7 +26,7 @@ private:
     bool knows_sound_ = true;
 };
 
-/// "MP3", "FLAC" ...; empty for a format without a name here.
+/// "MPEG Audio", "FLAC" ...; empty for a format without a name here.
 std::string_view format_name(const TagLib::File& file);
 
 /// Bits a sample; 0 when the format doesn't tell.

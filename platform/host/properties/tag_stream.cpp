@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::size_t page_size = 4096;
 /// Covers among the tags take megabytes.
-constexpr std::size_t largest_read = 8 << 20;
+constexpr std::size_t largest_read = 13 << 19;
 /// What can't do harm even when it is compressed.
 constexpr std::size_t harmless_read = 66'000;
 

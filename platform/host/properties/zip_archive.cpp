@@ -1,8 +1,8 @@
 #include "platform/host/properties/zip_archive.h"
 
-#include <zip.h>
+#include "platform/host/properties/zip_input.h"
 
-#include <fcntl.h>
+#include <zip.h>
 
 #include <algorithm>
 
@@ -13,23 +13,29 @@ namespace {
 using namespace std::string_view_literals;
 
 /// Far more than an honest document says of itself; to parse what is longer takes noticeable time.
-constexpr std::size_t most_content = 512 << 10;
+constexpr std::size_t most_content = 128 << 10;
+
+std::uint64_t number_at(std::string_view bytes, std::size_t at)
+{
+    std::uint64_t value = 0;
+    for (std::size_t i = 4; i-- > 0;)
+        value = value << 8 | static_cast<unsigned char>(bytes[at + i]);
+    return value;
+}
 
 /// Whether every list of contents that could be meant is small: the list is read whole when the archive is opened.
+/// One of an archive in the form for more than 4 GB tells its size elsewhere, and documents aren't archived so.
 bool has_small_directory(SubjectFile& file)
 {
-    constexpr std::uint64_t longest_end = 65'557, largest_directory = 4 << 20;
-    constexpr std::size_t size_at = 12, end_size = 22;
+    constexpr std::uint64_t longest_end = 65'577, largest_directory = 4 << 20;
+    constexpr std::size_t size_at = 12, end_size = 22, locator_size = 20;
     const std::uint64_t start = file.size() > longest_end ? file.size() - longest_end : 0;
-    const std::string end = file.read_text(start, longest_end);
+    const std::string tail = file.read_text(start, longest_end);
+    const std::string_view end = tail;
     bool is_found = false;
-    for (std::size_t at = 0; (at = end.find("PK\5\6"sv, at)) != end.npos; ++at) {
-        if (end.size() - at < end_size)
-            break;
-        std::uint64_t size = 0;
-        for (std::size_t i = 4; i-- > 0;)
-            size = size << 8 | static_cast<unsigned char>(end[at + size_at + i]);
-        if (size > largest_directory)
+    for (std::size_t at = 0; (at = end.find("PK\5\6"sv, at)) != end.npos && end.size() - at >= end_size; ++at) {
+        const bool is_large = at >= locator_size && end.substr(at - locator_size).starts_with("PK\6\7");
+        if (is_large || number_at(end, at + size_at) > largest_directory)
             return false;
         is_found = true;
     }
@@ -47,12 +53,11 @@ ZipArchive::ZipArchive(SubjectFile& file)
 {
     if (file.descriptor() < 0 || !has_small_directory(file))
         return;
-    Descriptor copy(fcntl(file.descriptor(), F_DUPFD_CLOEXEC, 0));
-    int error = 0;
-    archive_.reset(zip_fdopen(copy.get(), ZIP_RDONLY, &error));
-    // On success the archive owns the descriptor.
-    if (archive_)
-        copy.release();
+    zip_source* const source = make_zip_input(file);
+    archive_.reset(source ? zip_open_from_source(source, ZIP_RDONLY, nullptr) : nullptr);
+    // An opened archive owns its source.
+    if (source && !archive_)
+        zip_source_free(source);
 }
 
 std::string ZipArchive::content(const char* name) const

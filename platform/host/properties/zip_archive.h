@@ -12,11 +12,12 @@ namespace platform {
 class ZipArchive
 {
 public:
+    /// `file` must outlive the object.
     explicit ZipArchive(SubjectFile& file);
 
     bool is_open() const { return archive_ != nullptr; }
 
-    /// Content of a file of the archive, its first 512 KiB at the most. Empty when it isn't there, is encrypted or
+    /// Content of a file of the archive, its first 128 KiB at the most. Empty when it isn't there, is encrypted or
     /// broken.
     std::string content(const char* name) const;
 
