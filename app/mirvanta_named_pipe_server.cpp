@@ -1,10 +1,9 @@
 #include "app/mirvanta_named_pipe_server.h"
 
 #include "app/selection_message.h"
+#include "engine/items/selection_protocol.h"
 
 #include <QDebug>
-
-static_assert(NamedPipeServer::largest_message == largest_selection_message);
 
 MirvantaNamedPipeServer::MirvantaNamedPipeServer(QObject* parent) : QObject(parent) {}
 
@@ -15,7 +14,7 @@ MirvantaNamedPipeServer::~MirvantaNamedPipeServer()
 
 std::string MirvantaNamedPipeServer::pipe_name() const
 {
-    return "com.mirvanta.vellumark.api-1";
+    return std::string(selection_protocol::pipe_name);
 }
 
 void MirvantaNamedPipeServer::message_received(const std::vector<char>& message)

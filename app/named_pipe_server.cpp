@@ -2,11 +2,11 @@
 
 #include "app/incoming_message.h"
 #include "platform/debug_output.h"
-#include "platform/message_pipe.h"
 
 #include <algorithm>
 #include <cassert>
 #include <cstdio>
+#include <exception>
 #include <mutex>
 #include <optional>
 #include <span>
@@ -52,13 +52,18 @@ class NamedPipeServer::Receiver
 public:
     explicit Receiver(NamedPipeServer& server) : server_(&server) {}
 
-    /// The thread: serves clients until the pipe can't be made.
-    void run(const std::string& name, std::chrono::milliseconds patience)
+    /// The thread: serves clients until delivery ends or the pipe can't be made.
+    void run(const std::string& name, const platform::PipePatience& patience)
     {
         std::error_code error;
-        while (const auto pipe = platform::create_message_pipe(name, patience, error))
+        while (const auto pipe = platform::create_message_pipe(name, patience, error)) {
+            if (!set_pipe(pipe.get()))
+                return;
             while (serve_client(*pipe)) {
             }
+            if (!set_pipe(nullptr))
+                return;
+        }
         log_failure("CreateNamedPipe() failed", error);
     }
 
@@ -66,6 +71,8 @@ public:
     {
         const std::lock_guard lock(mutex_);
         server_ = nullptr;
+        if (pipe_)
+            pipe_->close();
     }
 
     bool delivers()
@@ -75,32 +82,57 @@ public:
     }
 
 private:
+    /// What `end_delivery` closes. False when that is over, and none is to be served any more.
+    bool set_pipe(platform::MessagePipe* pipe)
+    {
+        const std::lock_guard lock(mutex_);
+        pipe_ = server_ ? pipe : nullptr;
+        return server_ != nullptr;
+    }
+
     /// False when the pipe is of no more use.
     bool serve_client(platform::MessagePipe& pipe)
     {
         if (const std::error_code error = pipe.connect()) {
-            log_failure("ConnectNamedPipe() failed", error);
+            if (error != std::errc::operation_canceled)
+                log_failure("ConnectNamedPipe() failed", error);
             return false;
         }
-        if (const auto message = read_message(pipe))
-            deliver(*message);
-        pipe.disconnect();
+        if (is_taken(pipe))
+            pipe.disconnect();
+        else
+            pipe.refuse();
         return true;
     }
 
-    void deliver(const IncomingMessage& message)
+    /// Reads and delivers the client's message.
+    bool is_taken(platform::MessagePipe& pipe)
+    {
+        try {
+            const auto message = read_message(pipe);
+            return message && deliver(*message);
+        } catch (const std::exception& error) {
+            // Mostly a lack of memory for a large message, which the next one need not meet.
+            platform::debug_output(std::string("NamedPipeServer error: message lost; ") + error.what() + "\n");
+            return false;
+        }
+    }
+
+    bool deliver(const IncomingMessage& message)
     {
         const std::lock_guard lock(mutex_);
         if (!server_)
-            return;
+            return false;
         if (message.is_too_large())
             server_->message_too_large(message.size());
         else
             server_->message_received(message.bytes());
+        return true;
     }
 
     std::mutex mutex_;
     NamedPipeServer* server_;
+    platform::MessagePipe* pipe_ = nullptr;
 };
 
 NamedPipeServer::NamedPipeServer() : receiver_(std::make_shared<Receiver>(*this)) {}
@@ -110,7 +142,7 @@ NamedPipeServer::~NamedPipeServer()
     assert(!receiver_->delivers());
 }
 
-void NamedPipeServer::start(std::chrono::milliseconds patience)
+void NamedPipeServer::start(const platform::PipePatience& patience)
 {
     try {
         std::thread([receiver = receiver_, name = pipe_name(), patience] { receiver->run(name, patience); }).detach();

@@ -1,13 +1,15 @@
 #pragma once
 
-#include <chrono>
+#include "engine/items/selection_protocol.h"
+#include "platform/message_pipe.h"
+
 #include <cstddef>
 #include <memory>
 #include <string>
 #include <vector>
 
 /// Receives messages on a named pipe, on a thread of its own that serves one client after the other until the process
-/// ends. What fails is told by debug output alone.
+/// or delivery ends, or the pipe can't be made. What fails is told by debug output alone.
 class NamedPipeServer
 {
 public:
@@ -23,11 +25,11 @@ public:
     /// A message of more than `largest_message` bytes was sent; none of it was kept. On the pipe's thread.
     virtual void message_too_large(std::size_t size) = 0;
 
-    /// Starts the thread; once. A client that sends nothing for `patience` is dropped.
+    /// Starts the thread; once. A client that is slower than `patience` allows is dropped.
     /// Throws std::runtime_error ("CreateThread() failed with error N") when there can be no thread.
-    void start(std::chrono::milliseconds patience = std::chrono::seconds(10));
+    void start(const platform::PipePatience& patience = {});
 
-    static constexpr std::size_t largest_message = 8 << 20;
+    static constexpr std::size_t largest_message = selection_protocol::largest_message;
     /// Where a client that doesn't end its message is dropped.
     static constexpr std::size_t largest_stream = 64 << 20;
 
@@ -35,8 +37,8 @@ protected:
     NamedPipeServer();
     ~NamedPipeServer();
 
-    /// From here on the thread, which can't be ended, leaves this object alone. Waits for a call in progress. Every
-    /// class that can be destroyed calls it first in its destructor.
+    /// From here on the thread leaves this object alone and senders are refused; another program may have the pipe's
+    /// name. Waits for a call in progress. Every class that can be destroyed calls it first in its destructor.
     void end_delivery();
 
 private:

@@ -1,5 +1,7 @@
 #include "app/selection_message.h"
 
+#include "engine/items/selection_protocol.h"
+
 #include <QByteArrayView>
 #include <QDebug>
 #include <QJsonArray>
@@ -8,10 +10,15 @@
 
 namespace {
 
+QLatin1StringView latin1(std::string_view key)
+{
+    return QLatin1StringView(key.data(), static_cast<qsizetype>(key.size()));
+}
+
 QStringList paths_of(const QJsonObject& message)
 {
     QStringList paths;
-    const QJsonArray array = message[QLatin1String("paths")].toArray();
+    const QJsonArray array = message[latin1(selection_protocol::paths_key)].toArray();
     for (const auto path : array)
         if (const QString text = path.toString(); !text.isEmpty())
             paths.append(text);
@@ -27,7 +34,7 @@ void log_too_large_message(std::size_t size)
 
 std::optional<SelectionMessage> decode_selection_message(std::span<const char> bytes)
 {
-    if (bytes.size() > largest_selection_message) {
+    if (bytes.size() > selection_protocol::largest_message) {
         log_too_large_message(bytes.size());
         return std::nullopt;
     }
@@ -39,7 +46,7 @@ std::optional<SelectionMessage> decode_selection_message(std::span<const char> b
     }
     qDebug() << "OK";
     const QJsonObject object = document.object();
-    SelectionMessage message{object[QLatin1String("commandIndex")].toInt(-1), paths_of(object)};
+    SelectionMessage message{object[latin1(selection_protocol::command_index_key)].toInt(-1), paths_of(object)};
     if (message.paths.isEmpty()) {
         qDebug() << "No paths";
         return std::nullopt;

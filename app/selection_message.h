@@ -12,12 +12,9 @@ struct SelectionMessage {
     QStringList paths;      ///< never empty
 };
 
-/// The largest message that is decoded, in bytes.
-constexpr std::size_t largest_selection_message = 8 << 20;
-
 /// Tells the debug log of a message that is too large to be decoded.
 void log_too_large_message(std::size_t size);
 
-/// Decodes the UTF-8 text of one JSON object with "commandIndex" and "paths". Empty when it gives no path; the debug
-/// log says why. Any thread.
+/// Decodes a message of the selection protocol. Empty when it is too large or gives no path; the debug log says why.
+/// Any thread.
 std::optional<SelectionMessage> decode_selection_message(std::span<const char> bytes);

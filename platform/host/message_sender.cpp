@@ -23,11 +23,14 @@ bool send_all(const Descriptor& socket, std::string_view bytes)
     return true;
 }
 
-/// The owner answers nothing: the end is all that comes.
-bool wait_for_end(const Descriptor& socket)
+/// The end tells that the message was taken; the owner says something only to refuse it.
+std::error_code wait_for_end(const Descriptor& socket)
 {
-    std::array<char, 1> nothing{};
-    return receive(socket, nothing, 0) == 0;
+    std::array<char, 1> refusal{};
+    const ssize_t got = receive(socket, refusal, 0);
+    if (got < 0)
+        return last_error();
+    return got == 0 ? std::error_code() : make_error_code(std::errc::connection_reset);
 }
 
 /// A call that sends fails with EAGAIN when its time is over, whatever it waited for.
@@ -50,7 +53,7 @@ std::error_code send_message(std::string_view name, std::string_view message, st
         return errno == ENOENT ? make_error_code(std::errc::connection_refused) : sending_error();
     if (!send_all(socket, message) || shutdown(socket.get(), SHUT_WR) != 0)
         return sending_error();
-    return wait_for_end(socket) ? std::error_code() : last_error();
+    return wait_for_end(socket);
 }
 
 }

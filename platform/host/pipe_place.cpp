@@ -19,14 +19,30 @@ std::string socket_path(const Descriptor& folder, const std::string& name)
 }
 
 /// A lock of the open file, not of the process: a forked child's end doesn't free it.
-struct flock whole_file()
+struct flock whole_file(short type)
 {
     struct flock lock {
     };
 
-    lock.l_type = F_WRLCK;
+    lock.l_type = type;
     lock.l_whence = SEEK_SET;
     return lock;
+}
+
+bool set_lock(const Descriptor& file, short type)
+{
+    struct flock lock = whole_file(type);
+    return fcntl(file.get(), F_OFD_SETLK, &lock) == 0;
+}
+
+/// False as well when nothing, or nothing that can be looked at, has the name.
+bool is_named(const Descriptor& file, const Descriptor& folder, const std::string& name)
+{
+    struct stat opened {
+    }, named{};
+
+    return fstat(file.get(), &opened) == 0 && fstatat(folder.get(), name.c_str(), &named, AT_SYMLINK_NOFOLLOW) == 0 &&
+           opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
 }
 
 }
@@ -60,23 +76,35 @@ void PipePlace::remove_socket() const
     unlinkat(folder_.get(), name_.c_str(), 0);
 }
 
-Descriptor PipePlace::open_lock(std::string_view ending) const
+Descriptor PipePlace::open_lock(const std::string& file) const
 {
-    const std::string file = name_ + std::string(ending);
     return Descriptor(
         openat(folder_.get(), file.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR));
 }
 
-bool try_lock(const Descriptor& file)
+Descriptor PipePlace::try_lock(std::string_view ending) const
 {
-    struct flock lock = whole_file();
-    return fcntl(file.get(), F_OFD_SETLK, &lock) == 0;
+    const std::string file = name_ + std::string(ending);
+    for (;;) {
+        Descriptor lock = open_lock(file);
+        if (!lock || !set_lock(lock, F_WRLCK))
+            return Descriptor();
+        // Whoever clears old files away may have taken this one in between: the next program would lock another.
+        if (is_named(lock, folder_, file))
+            return lock;
+    }
 }
 
-bool is_locked(const Descriptor& file)
+bool PipePlace::is_locked(std::string_view ending) const
 {
-    struct flock lock = whole_file();
-    return fcntl(file.get(), F_OFD_GETLK, &lock) == 0 && lock.l_type != F_UNLCK;
+    const Descriptor file = open_lock(name_ + std::string(ending));
+    struct flock lock = whole_file(F_WRLCK);
+    return file && fcntl(file.get(), F_OFD_GETLK, &lock) == 0 && lock.l_type != F_UNLCK;
+}
+
+void unlock(const Descriptor& lock)
+{
+    set_lock(lock, F_UNLCK);
 }
 
 }

@@ -27,20 +27,22 @@ public:
     /// Takes the socket away, if it is there.
     void remove_socket() const;
 
-    /// Opens the lock file `name` + `ending`, made when it is missing.
-    Descriptor open_lock(std::string_view ending) const;
+    /// Locks the file `name` + `ending`, made when it is missing, until the descriptor is closed; nobody waits. None,
+    /// with errno, when that fails: EAGAIN when another program holds the lock.
+    Descriptor try_lock(std::string_view ending) const;
+
+    /// Whether another program holds that lock.
+    bool is_locked(std::string_view ending) const;
 
 private:
+    Descriptor open_lock(const std::string& file) const;
+
     std::string name_;
     Descriptor folder_;
     std::error_code error_;
 };
 
-/// Locks what `open_lock` opened, until the descriptor is closed; nobody waits. False, with errno, when that fails:
-/// EAGAIN when another program holds it.
-bool try_lock(const Descriptor& file);
-
-/// Whether another program has locked the file.
-bool is_locked(const Descriptor& file);
+/// Gives a lock back before its descriptor is closed. Any thread.
+void unlock(const Descriptor& lock);
 
 }

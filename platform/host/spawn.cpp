@@ -17,10 +17,13 @@ public:
     explicit ChildSetup(ProgramStreams streams)
     {
         posix_spawn_file_actions_init(&actions_);
+        // First of all: the socket may have the number of a standard stream.
+        if (streams.socket >= 0)
+            posix_spawn_file_actions_adddup2(&actions_, streams.socket, socket_of_program);
         put(streams.input, STDIN_FILENO, O_RDONLY);
         put(streams.output, STDOUT_FILENO, O_WRONLY);
         put(-1, STDERR_FILENO, O_WRONLY);
-        posix_spawn_file_actions_addclosefrom_np(&actions_, STDERR_FILENO + 1);
+        posix_spawn_file_actions_addclosefrom_np(&actions_, (streams.socket >= 0 ? socket_of_program : STDERR_FILENO) + 1);
         posix_spawn_file_actions_addchdir_np(&actions_, "/");
         sigset_t all{}, none{};
         sigfillset(&all);

@@ -10,10 +10,15 @@
 
 #include <QTest>
 
+#include <sys/ioctl.h>
 #include <sys/resource.h>
+#include <sys/socket.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <future>
+#include <memory>
+#include <new>
 #include <stdexcept>
 #include <thread>
 #include <vector>
@@ -24,13 +29,13 @@ namespace {
 
 constexpr auto hang = 60s;
 
-/// A server whose pipe lies in a folder of its own. Its thread outlives the test, blocked.
+/// A server whose pipe lies in a folder of its own.
 class NamedPipeServerTest : public testing::Test
 {
 protected:
     void start(std::chrono::milliseconds patience = hang)
     {
-        server_.start(patience);
+        server_.start({patience, hang});
         const auto end = std::chrono::steady_clock::now() + hang;
         while (send("") == std::errc::connection_refused && std::chrono::steady_clock::now() < end)
             std::this_thread::sleep_for(1ms);
@@ -135,17 +140,82 @@ TEST_F(NamedPipeServerTest, SecondServerGoesWithoutIntake)
     EXPECT_TRUE(wait_for(1));
 }
 
-TEST_F(NamedPipeServerTest, ServerThatGoesIsLeftAlone)
+TEST_F(NamedPipeServerTest, WhatIsTakenIsDeliveredWhenTheServerGoes)
+{
+    for (int round = 0; round < 20; ++round) {
+        std::atomic<int> received = 0, taken = 0;
+        auto server = std::make_unique<MirvantaNamedPipeServer>();
+        QObject::connect(server.get(), &MirvantaNamedPipeServer::context_menu_selected, [&] { ++received; });
+        server->start();
+        auto client = std::async(std::launch::async, [&] {
+            std::error_code error;
+            const auto end = std::chrono::steady_clock::now() + hang;
+            while ((!error || taken == 0) && std::chrono::steady_clock::now() < end) {
+                error = send(message_of(50));
+                taken += error ? 0 : 1;
+            }
+            return error;
+        });
+        EXPECT_TRUE(QTest::qWaitFor([&] { return taken > round; }, 60'000));
+        server.reset();
+        const std::error_code error = client.get();
+        EXPECT_TRUE(error == std::errc::connection_refused || error == std::errc::connection_reset ||
+                    error == std::errc::broken_pipe)
+            << error;
+        EXPECT_EQ(received, taken);
+        EXPECT_EQ(send("x"), std::errc::connection_refused);
+    }
+    start();
+    EXPECT_FALSE(send(message_of(50)));
+    EXPECT_TRUE(wait_for(1));
+}
+
+TEST_F(NamedPipeServerTest, MessageInProgressIsRefusedWhenTheServerGoes)
 {
     auto server = std::make_unique<MirvantaNamedPipeServer>();
     server->start();
-    auto clients = std::async(std::launch::async, [&] {
-        for (int i = 0; i < 500; ++i)
-            send(message_of(50));
-    });
-    std::this_thread::sleep_for(20ms);
+    int client = -1;
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return (client = raw_client(folder_.host(server->pipe_name()))) >= 0; }, 60'000));
+    const std::string message = message_of(50);
+    // Taken from the queue when the owner has read it.
+    EXPECT_EQ(write(client, message.data(), message.size()), 50);
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+            int unread = -1;
+            return ioctl(client, TIOCOUTQ, &unread) == 0 && unread == 0;
+        },
+        60'000));
     server.reset();
-    clients.get();
+    shutdown(client, SHUT_WR);
+    char refusal = 0;
+    EXPECT_EQ(read(client, &refusal, 1), 1);
+    close(client);
+}
+
+TEST_F(NamedPipeServerTest, ExceptionCostsOneMessage)
+{
+    struct Thrower final : NamedPipeServer {
+        ~Thrower() { end_delivery(); }
+
+        std::string pipe_name() const override { return "thrower"; }
+
+        void message_received(const std::vector<char>& message) override
+        {
+            if (message.size() == 1)
+                throw std::bad_alloc();
+        }
+
+        void message_too_large(std::size_t) override {}
+    } server;
+
+    server.start();
+    const auto send = [](std::string_view message) { return platform::send_message("thrower", message, hang); };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return send("") != std::errc::connection_refused; }, 60'000));
+    const ErrorOutput output;
+    EXPECT_EQ(send("x"), std::errc::connection_reset);
+    EXPECT_EQ(output.wait(), "NamedPipeServer error: message lost; std::bad_alloc\n");
+    EXPECT_FALSE(send("xx"));
 }
 
 TEST_F(NamedPipeServerTest, NoThreadIsAnError)

@@ -2,18 +2,15 @@
 
 #include <gtest/gtest.h>
 
-#include <QSignalSpy>
+#include <QCoreApplication>
 #include <QTest>
 
 #include <atomic>
-#include <chrono>
 #include <thread>
-
-using namespace std::chrono_literals;
 
 namespace {
 
-/// Reads `selection` on a thread, without a lock, until it is asked to stop, and a while longer.
+/// Reads `selection` on a thread, without a lock, until it is asked to stop, and on until it may.
 class SlowReader final : public SelectionReader
 {
 public:
@@ -26,6 +23,7 @@ public:
     ~SlowReader()
     {
         stop_reading();
+        let_end();
         if (thread_.joinable())
             thread_.join();
         readers_.remove_reader(*this);
@@ -42,7 +40,7 @@ public:
             const auto is_changed = [&] { return selection_ != before; };
             while (!stops_)
                 changed_ = changed_ || is_changed();
-            for (const auto end = std::chrono::steady_clock::now() + 30ms; std::chrono::steady_clock::now() < end;)
+            while (!may_end_)
                 changed_ = changed_ || is_changed();
             reads_ = false;
             QMetaObject::invokeMethod(
@@ -54,13 +52,16 @@ public:
 
     void stop_reading() override { stops_ = true; }
 
+    /// From here on it ends as soon as it is asked to.
+    void let_end() { may_end_ = true; }
+
     bool has_seen_a_change() const { return changed_; }
 
 private:
     SelectionReaders& readers_;
     QObject& main_;
     const std::string& selection_;
-    std::atomic<bool> stops_ = false, reads_ = false, changed_ = false;
+    std::atomic<bool> stops_ = false, may_end_ = false, reads_ = false, changed_ = false;
     std::thread thread_;
 };
 
@@ -107,7 +108,10 @@ TEST_F(SelectionIntakeTest, NewestOneIsTakenWhenAllReadersHaveEnded)
     second.start();
     intake_.take(4, {"b"});
     intake_.take(-1, {"c"});
+    QCoreApplication::processEvents();
     EXPECT_EQ(history_, "");
+    first.let_end();
+    second.let_end();
     EXPECT_TRUE(settles());
     EXPECT_EQ(history_, "-1:c ");
     EXPECT_FALSE(first.has_seen_a_change() || second.has_seen_a_change());
@@ -116,6 +120,7 @@ TEST_F(SelectionIntakeTest, NewestOneIsTakenWhenAllReadersHaveEnded)
 TEST_F(SelectionIntakeTest, ReaderThatIsStartedAgainAfterEachChange)
 {
     SlowReader reader(intake_, intake_, selection_);
+    reader.let_end();
     after_change_ = [&] { reader.start(); };
     for (int round = 0; round < 10; ++round) {
         for (int message = 0; message < 20; ++message)

@@ -6,10 +6,13 @@
 #include <gtest/gtest.h>
 
 #include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <filesystem>
 #include <future>
 #include <initializer_list>
@@ -33,9 +36,10 @@ class MessagePipeTest : public testing::Test
 protected:
     MessagePipeTest() { chmod(folder_.host().c_str(), 0755); }
 
-    std::unique_ptr<platform::MessagePipe> create(std::chrono::milliseconds time = patience)
+    std::unique_ptr<platform::MessagePipe> create(std::chrono::milliseconds silence = patience,
+                                                  std::chrono::milliseconds message = patience)
     {
-        return create_message_pipe("pipe", time, error_);
+        return create_message_pipe("pipe", {silence, message}, error_);
     }
 
     /// What is read with a buffer of `size` bytes: the pieces' lengths, and how it ended.
@@ -117,6 +121,71 @@ TEST_F(MessagePipeTest, SilentClientsAndOwnersTimeOut)
     EXPECT_EQ(send_message("pipe", "", 50ms), std::errc::timed_out);
 }
 
+TEST_F(MessagePipeTest, MessageHasATimeInAll)
+{
+    const auto pipe = create(patience, 100ms);
+    const int client = connect_client();
+    ASSERT_FALSE(pipe->connect());
+    std::atomic<bool> is_over = false;
+    auto drips = std::async(std::launch::async, [&] {
+        for (const auto end = std::chrono::steady_clock::now() + 30s;
+             !is_over && std::chrono::steady_clock::now() < end; std::this_thread::sleep_for(5ms))
+            send(client, "x", 1, MSG_NOSIGNAL);
+    });
+    EXPECT_TRUE(pieces(*pipe, 1 << 20).ends_with(" Connection timed out"));
+    is_over = true;
+    drips.get();
+    close(client);
+}
+
+TEST_F(MessagePipeTest, RefusedMessageIsAnErrorOfTheSender)
+{
+    const auto pipe = create();
+    auto sent = std::async(std::launch::async, [] { return send_message("pipe", "x", patience); });
+    ASSERT_FALSE(pipe->connect());
+    EXPECT_EQ(pieces(*pipe, 8), "1 end");
+    pipe->refuse();
+    EXPECT_EQ(sent.get(), std::errc::connection_reset);
+}
+
+TEST_F(MessagePipeTest, ClosedPipeGivesItsNameBack)
+{
+    const auto first = create();
+    auto connected = std::async(std::launch::async, [&] { return first->connect(); });
+    std::this_thread::sleep_for(20ms);
+    first->close();
+    EXPECT_EQ(connected.get(), std::errc::operation_canceled);
+    EXPECT_FALSE(platform::is_pipe_owned("pipe"));
+    EXPECT_EQ(send_message("pipe", "x", patience), std::errc::connection_refused);
+    EXPECT_EQ(exchange(), "1 end");
+}
+
+TEST_F(MessagePipeTest, ClientsThatWaitAtTheCloseAreNotTaken)
+{
+    auto pipe = create();
+    auto sent = std::async(std::launch::async, [] { return send_message("pipe", "x", patience); });
+    std::this_thread::sleep_for(20ms);
+    pipe->close();
+    EXPECT_EQ(pipe->connect(), std::errc::operation_canceled);
+    pipe.reset();
+    EXPECT_TRUE(sent.get());
+}
+
+TEST_F(MessagePipeTest, FullTableOfFilesKeepsTheClientsWaiting)
+{
+    const auto pipe = create();
+    const int client = connect_client();
+    rlimit before{};
+    getrlimit(RLIMIT_NOFILE, &before);
+    const rlimit none{0, before.rlim_max};
+    setrlimit(RLIMIT_NOFILE, &none);
+    auto connected = std::async(std::launch::async, [&] { return pipe->connect(); });
+    EXPECT_EQ(connected.wait_for(50ms), std::future_status::timeout);
+    setrlimit(RLIMIT_NOFILE, &before);
+    EXPECT_FALSE(connected.get());
+    close(client);
+}
+
 TEST_F(MessagePipeTest, DroppedMessageIsAnErrorOfTheSender)
 {
     const auto pipe = create();
@@ -137,7 +206,14 @@ TEST_F(MessagePipeTest, NameHasOneOwner)
     EXPECT_TRUE(platform::is_pipe_owned("pipe"));
     EXPECT_FALSE(create());
     EXPECT_EQ(error_, std::errc::address_in_use);
-    EXPECT_TRUE(create_message_pipe("other", patience, error_));
+    EXPECT_TRUE(create_message_pipe("other", {}, error_));
+
+    // A lock that was cleared away can be had again, but not the name.
+    std::filesystem::remove(folder_.host("pipe.lock"));
+    EXPECT_FALSE(create());
+    EXPECT_EQ(error_, std::errc::address_in_use);
+    EXPECT_FALSE(first->connect()); // to see who was there
+    EXPECT_EQ(pieces(*first, 8), "0 end");
 
     // Its end leaves the socket behind, as a crash does.
     first.reset();
@@ -210,10 +286,10 @@ TEST_F(MessagePipeTest, PlaceIsTheUsersOwn)
     std::filesystem::remove_all(folder_.host(own));
     folder_.make_link(own, folder_.host("real"));
     EXPECT_EQ(exchange(), "Not a directory");
-    EXPECT_EQ(create_message_pipe("../pipe", patience, error_), nullptr);
+    EXPECT_EQ(create_message_pipe("../pipe", {}, error_), nullptr);
 }
 
-TEST_F(MessagePipeTest, OtherUsersAreRefused)
+TEST_F(MessagePipeTest, OtherUsersAreDropped)
 {
     if (geteuid() != 0)
         GTEST_SKIP() << "only root can become another user";
@@ -228,8 +304,13 @@ TEST_F(MessagePipeTest, OtherUsersAreRefused)
         char nothing = 0;
         _exit(client >= 0 && read(client, &nothing, 1) == 0 ? 0 : 1);
     }
-    EXPECT_EQ(pipe->connect(), std::errc::permission_denied);
+    auto connected = std::async(std::launch::async, [&] { return pipe->connect(); });
     int status = 0;
     ASSERT_EQ(waitpid(child, &status, 0), child);
     EXPECT_EQ(status, 0);
+    auto sent = std::async(std::launch::async, [] { return send_message("pipe", "own", patience); });
+    EXPECT_FALSE(connected.get());
+    EXPECT_EQ(pieces(*pipe, 8), "3 end");
+    pipe->disconnect();
+    EXPECT_FALSE(sent.get());
 }

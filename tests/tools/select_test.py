@@ -164,7 +164,8 @@ class Start(SelectTest):
         self.install_application("echo $$ > '" + self.home + "/starts'\nexec sleep 600\n")
         started = time.monotonic()
         self.check_refused(1, b"VellumarkConfigure doesn't listen\n", ".")
-        self.assertAlmostEqual(time.monotonic() - started, 10, delta=5)
+        # A busy machine can make it later.
+        self.assertGreaterEqual(time.monotonic() - started, 10)
 
     def test_folder_that_others_can_change(self):
         os.chmod(self.runtime, 0o777)

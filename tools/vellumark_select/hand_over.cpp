@@ -1,5 +1,6 @@
 #include "vellumark_select/hand_over.h"
 
+#include "engine/items/selection_protocol.h"
 #include "platform/known_folders.h"
 #include "platform/message_pipe.h"
 #include "platform/start_program.h"
@@ -15,16 +16,24 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr std::string_view pipe_name = "com.mirvanta.vellumark.api-1";
+using selection_protocol::pipe_name;
+
 constexpr auto time_to_listen = 10s;
-/// Longer than the application waits for a client that says nothing and stands before us.
-constexpr auto time_to_read = 30s;
+/// Longer than the application waits for a client that is slow and stands before us.
+constexpr auto time_to_read = 40s;
+
+/// It closes, or had to drop us: the next attempt may find it, or another, at its work.
+bool is_worth_another_try(const std::error_code& error)
+{
+    return error == std::errc::connection_refused || error == std::errc::connection_reset ||
+           error == std::errc::broken_pipe;
+}
 
 /// Starts the application at most once, and not while another program like this one does.
 class Starter
 {
 public:
-    /// To be called while nobody listens. False when the caller should look again at once.
+    /// To be called while nobody takes the message. False when the caller should look again at once.
     bool help()
     {
         if (program_) {
@@ -66,10 +75,11 @@ void hand_over(std::string_view message)
         const std::error_code error = platform::send_message(pipe_name, message, time_to_read);
         if (!error)
             return;
-        if (error != std::errc::connection_refused)
-            throw std::runtime_error("VellumarkConfigure doesn't take the selection: " + error.message());
-        if (std::chrono::steady_clock::now() > end)
+        const bool is_over = std::chrono::steady_clock::now() > end;
+        if (is_over && error == std::errc::connection_refused)
             throw std::runtime_error("VellumarkConfigure doesn't listen");
+        if (is_over || !is_worth_another_try(error))
+            throw std::runtime_error("VellumarkConfigure doesn't take the selection: " + error.message());
         if (starter.help())
             std::this_thread::sleep_for(10ms);
     }

@@ -1,5 +1,6 @@
 #include "common/selection.h"
 #include "common/tool.h"
+#include "engine/items/selection_protocol.h"
 #include "vellumark_select/hand_over.h"
 #include "vellumark_select/options.h"
 #include "vellumark_select/selection_json.h"
@@ -9,8 +10,7 @@
 
 namespace {
 
-/// What the application reads at the most.
-constexpr std::size_t largest_message = 8 << 20;
+using selection_protocol::largest_message;
 
 int run(const Tool& tool, int argc, const char* const* argv)
 {

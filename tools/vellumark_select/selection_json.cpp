@@ -1,5 +1,6 @@
 #include "vellumark_select/selection_json.h"
 
+#include "engine/items/selection_protocol.h"
 #include "platform/utf.h"
 
 #include <array>
@@ -11,11 +12,19 @@ bool needs_escape(char32_t code)
     return code < 0x20 || platform::is_surrogate(code);
 }
 
+std::string key(std::string_view name)
+{
+    return '"' + std::string(name) + "\":";
 }
 
-SelectionJson::SelectionJson(std::optional<std::size_t> index)
-    : text_(index ? "{\"commandIndex\":" + std::to_string(*index) + ",\"paths\":[" : "{\"paths\":[")
-{}
+}
+
+SelectionJson::SelectionJson(std::optional<std::size_t> index) : text_("{")
+{
+    if (index)
+        text_ += key(selection_protocol::command_index_key) + std::to_string(*index) + ',';
+    text_ += key(selection_protocol::paths_key) + '[';
+}
 
 void SelectionJson::add(std::u16string_view path)
 {

@@ -1,7 +1,7 @@
 #include "platform/host/properties/helper_process.h"
 
-#include <fcntl.h>
-#include <spawn.h>
+#include "platform/host/spawn.h"
+
 #include <sys/socket.h>
 #include <sys/wait.h>
 
@@ -15,8 +15,6 @@
 namespace platform {
 
 namespace {
-
-constexpr int socket_of_helper = 3;
 
 /// True when the process is gone and has left no zombie, whoever reaped it.
 bool is_reaped(pid_t id)
@@ -68,52 +66,6 @@ void end(pid_t id)
     remains().add(id);
 }
 
-/// How the helper begins: only the socket and empty standard streams, no blocked or ignored signal, and out of
-/// reach of the interrupt key, which is meant for the program itself.
-class Beginning
-{
-public:
-    explicit Beginning(int socket)
-    {
-        posix_spawn_file_actions_init(&actions_);
-        posix_spawnattr_init(&attributes_);
-        // First of all: the socket may have the number of a standard stream.
-        posix_spawn_file_actions_adddup2(&actions_, socket, socket_of_helper);
-        for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
-            posix_spawn_file_actions_addopen(&actions_, stream, "/dev/null", O_RDWR, 0);
-        posix_spawn_file_actions_addclosefrom_np(&actions_, socket_of_helper + 1);
-        sigset_t none, all;
-        sigemptyset(&none);
-        sigfillset(&all);
-        posix_spawnattr_setsigmask(&attributes_, &none);
-        posix_spawnattr_setsigdefault(&attributes_, &all);
-        posix_spawnattr_setflags(&attributes_,
-                                 POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETPGROUP);
-    }
-
-    ~Beginning()
-    {
-        posix_spawn_file_actions_destroy(&actions_);
-        posix_spawnattr_destroy(&attributes_);
-    }
-
-    Beginning(const Beginning&) = delete;
-    Beginning& operator=(const Beginning&) = delete;
-
-    /// 0 when the program can't be started.
-    pid_t spawn(std::string program) const
-    {
-        const std::array<char*, 2> arguments{program.data(), nullptr};
-        pid_t id = 0;
-        const int error = posix_spawn(&id, program.c_str(), &actions_, &attributes_, arguments.data(), environ);
-        return error == 0 ? id : 0;
-    }
-
-private:
-    posix_spawn_file_actions_t actions_{};
-    posix_spawnattr_t attributes_{};
-};
-
 }
 
 HelperProcess::HelperProcess(pid_t id, Descriptor socket) : id_(id), socket_(std::move(socket)) {}
@@ -143,8 +95,9 @@ HelperProcess HelperProcess::start(const std::string& program)
         return {};
     Descriptor ours(ends[0]);
     const Descriptor theirs(ends[1]);
-    const pid_t id = Beginning(theirs.get()).spawn(program);
-    return id > 0 ? HelperProcess(id, std::move(ours)) : HelperProcess();
+    std::error_code error;
+    const pid_t id = spawn({program, {}}, {.socket = theirs.get()}, error);
+    return id != 0 ? HelperProcess(id, std::move(ours)) : HelperProcess();
 }
 
 }
