@@ -37,7 +37,7 @@ ForegroundNormal=252,252,252
 
 def setUpModule():
     os.makedirs(PICTURES, exist_ok=True)
-    ProgramTest.desktop = Desktop("1600x1400")
+    ProgramTest.desktop = Desktop("1920x1400")
     unittest.addModuleCleanup(ProgramTest.desktop.close)
 
 
