@@ -11,7 +11,7 @@ constexpr int most_tries = 1000;
 
 /// A name taken apart.
 struct CopyName {
-    QString base;         ///< without the ending and the blanks before it
+    QString base;         ///< without the ending and the blank before it
     qlonglong number = 1; ///< of the first copy to try
 };
 
@@ -23,7 +23,7 @@ CopyName split(const QString& name)
     if (!match.hasMatch())
         return {name};
     QString base = name.left(match.capturedStart());
-    while (!base.isEmpty() && base.back().isSpace())
+    if (base.endsWith(u' '))
         base.chop(1);
     const QString number = match.captured(1).trimmed();
     // A number that is too large for any counter counts as none.

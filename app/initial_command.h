@@ -1,7 +1,6 @@
 #pragma once
 
-#include "store/commands_file.h"
-
+class CommandsListController;
 class VellumarkCommand;
 
 /// Which command is current when the window opens.
@@ -13,4 +12,5 @@ struct InitialCommand {
 
 /// `last` is the command run last, null when there is none: the first that equals it, in the menu list before the
 /// library. Without one the menu list's first file-name command, or row 0.
-InitialCommand initial_command(const VellumarkCommand* last, const CommandList& menu, const CommandList& library);
+InitialCommand initial_command(const VellumarkCommand* last, const CommandsListController& menu,
+                               const CommandsListController& library);

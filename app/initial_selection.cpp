@@ -40,7 +40,7 @@ void append_left_over(CommandsListController& menu, const std::shared_ptr<Vellum
 bool select_initial_command(CommandsListController& menu, CommandsListController& library)
 {
     const auto last = last_command();
-    const InitialCommand initial = initial_command(last.get(), menu.commands(), library.commands());
+    const InitialCommand initial = initial_command(last.get(), menu, library);
     if (initial.is_new)
         append_left_over(menu, last);
     (initial.in_library ? library : menu).select_without_undo(initial.row);

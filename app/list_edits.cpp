@@ -33,6 +33,11 @@ void push_with(AppServices& app, CommandList commands, std::shared_ptr<MVCommand
         editor->focus_name();
 }
 
+bool is_builtin(const std::shared_ptr<MVCommandBase>& command)
+{
+    return command->type() != CommandType::Vellumark;
+}
+
 bool is_name_taken(AppServices& app, std::u16string_view name)
 {
     const auto holds_name = [name](const CommandsListController& list) {
@@ -73,6 +78,8 @@ namespace list_edits {
 
 void add(AppServices& app, std::shared_ptr<MVCommandBase> command, const QString& text)
 {
+    if (is_builtin(command) && &app.active_list() != &app.menu_list())
+        app.show_menu_list();
     push_with(app, app.active_list().commands(), std::move(command), text);
 }
 
@@ -95,7 +102,6 @@ void move_to_other_list(AppServices& app)
     const bool from_menu = &source == &app.menu_list();
     const CommandsListController& target = from_menu ? app.library_list() : app.menu_list();
     Parted parted = part_by_selection(source);
-    const auto is_builtin = [](const auto& command) { return command->type() != CommandType::Vellumark; };
     if (parted.leaving.empty() || (from_menu && std::ranges::any_of(parted.leaving, is_builtin)))
         return;
 

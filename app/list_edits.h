@@ -9,7 +9,8 @@ class QString;
 /// Steps of undo that the application's buttons and menus take, on the active list.
 namespace list_edits {
 
-/// Puts the command behind the list's current one and makes it current.
+/// Puts the command behind the list's current one and makes it current. A built-in command goes to the menu list,
+/// whichever is active, and that shows then.
 void add(AppServices& app, std::shared_ptr<MVCommandBase> command, const QString& text);
 
 /// Puts a copy of the current command, under a name of its own, behind it and makes that current. The copy takes

@@ -7,6 +7,7 @@
 #include "ui/editor/command_main_widget_base.h"
 #include "ui/lists/commands_list_controller.h"
 #include "ui/lists/commands_list_widget.h"
+#include "ui/lists/commands_table_view.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -41,6 +42,10 @@ QWidget* MainAppUi::make_left_pane()
     row->addStretch();
     save_ = new QPushButton(tr("Save"));
     connect(save_, &QPushButton::clicked, &app_, &MirvantaApp::save_commands_list);
+    // The list above keeps its height while the button hides.
+    QSizePolicy policy = save_->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    save_->setSizePolicy(policy);
     row->addWidget(save_);
     layout->addLayout(row);
     return pane;
@@ -123,6 +128,12 @@ void MainAppUi::show_tab(int tab)
 void MainAppUi::focus_list()
 {
     tabs_->currentWidget()->setFocus();
+}
+
+void MainAppUi::finish_edits()
+{
+    for (const CommandsListWidget* list : findChildren<CommandsListWidget*>())
+        list->view().finish_edit();
 }
 
 void MainAppUi::save_settings(QSettings& settings) const

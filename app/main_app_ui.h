@@ -35,6 +35,9 @@ public:
     /// Moves the focus to the list that shows.
     void focus_list();
 
+    /// Takes over what is typed into a name that is being edited in a list.
+    void finish_edits();
+
     /// The splitter, the tab and what the editors' pages keep.
     void save_settings(QSettings& settings) const;
     /// The splitter and the tab, which is left as it is when there is no such tab. An editor's page restores its own.

@@ -22,10 +22,12 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QStyle>
+#include <QTimer>
 #include <QUrl>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <stdexcept>
 
 namespace {
 
@@ -59,7 +61,7 @@ MirvantaApp::MirvantaApp(const MakeEditors& make_editors)
       tool_row_(new ToolRow(undo_stack_, this))
 {
     setWindowTitle(QCoreApplication::applicationName());
-    load_stored_commands();
+    const bool loaded = load_stored_commands();
     start_intake();
     ui_ = std::make_unique<MainAppUi>(*this);
     connect_lists();
@@ -68,7 +70,8 @@ MirvantaApp::MirvantaApp(const MakeEditors& make_editors)
     connect(ui_.get(), &MainAppUi::commands_list_changed, this, &MirvantaApp::refresh_save_and_delete);
     refresh_save_and_delete();
     add_editors(make_editors);
-    show_list(select_initial_command(menu_list_, library_list_) ? library_tab : menu_tab);
+    const bool in_library = loaded && select_initial_command(menu_list_, library_list_);
+    show_list(in_library ? library_tab : menu_tab);
     // Nobody has told of a current command where the list is empty.
     current_command_changed();
     ui_->focus_list();
@@ -76,12 +79,17 @@ MirvantaApp::MirvantaApp(const MakeEditors& make_editors)
 
 MirvantaApp::~MirvantaApp() = default;
 
-void MirvantaApp::load_stored_commands()
+bool MirvantaApp::load_stored_commands()
 {
     try {
         stored_.load();
+        return true;
     } catch (const std::exception& error) {
-        MessageBoxes::show_failure(this, tr("Failed to load stored commands"), error);
+        // With the window, which has to listen for selections however long the box stays.
+        QTimer::singleShot(0, this, [this, failure = std::runtime_error(error.what())] {
+            MessageBoxes::show_failure(this, tr("Failed to load stored commands"), failure);
+        });
+        return false;
     }
 }
 
@@ -173,6 +181,7 @@ void MirvantaApp::close_with_accept()
 
 void MirvantaApp::done(int result)
 {
+    ui_->finish_edits();
     save_window_state();
     QDialog::done(result);
 }
@@ -188,6 +197,8 @@ void MirvantaApp::save_window_state() const
 
 void MirvantaApp::on_ok()
 {
+    // Not every way to press a button takes the focus from an edit.
+    ui_->finish_edits();
     const bool leave = save_flow_.settle_changes();
     refresh_save_and_delete();
     if (leave && (!current_editor_ || current_editor_->run_current_command()))
@@ -269,9 +280,19 @@ void MirvantaApp::refresh_save_and_delete()
     ui_->enable_delete_button(!active_list().is_empty());
 }
 
-void MirvantaApp::duplicate_command_btn_pressed()
+void MirvantaApp::show_menu_list()
+{
+    show_list(menu_tab);
+}
+
+void MirvantaApp::duplicate_command()
 {
     list_edits::duplicate(*this);
+}
+
+void MirvantaApp::duplicate_command_btn_pressed()
+{
+    duplicate_command();
 }
 
 void MirvantaApp::new_command_btn_pressed()
@@ -291,6 +312,7 @@ void MirvantaApp::move_commands_to_other_list()
 
 bool MirvantaApp::save_commands_list()
 {
+    ui_->finish_edits();
     const bool saved = save_flow_.save();
     refresh_save_and_delete();
     return saved;

@@ -29,8 +29,8 @@ class MirvantaApp final : public QDialog, public AppServices
     Q_OBJECT
 
 public:
-    /// Loads the stored commands and starts to listen for selections; a commands file that can't be used is shown to
-    /// the user before this returns. Without editors no command has a page.
+    /// Loads the stored commands and starts to listen for selections; that a commands file can't be
+    /// used is told to the user once events are processed. Without editors no command has a page.
     explicit MirvantaApp(const MakeEditors& make_editors = {});
     ~MirvantaApp() override;
 
@@ -48,6 +48,8 @@ public:
 
     CommandControllerBase* current_editor() override { return current_editor_; }
 
+    void show_menu_list() override;
+    void duplicate_command() override;
     void reset_stored_commands() override;
     void close_with_accept() override;
 
@@ -69,7 +71,7 @@ public slots:
     void current_command_index_changed();
     /// The active list has another current command: finds its editor and shows its page.
     void current_command_changed();
-    void duplicate_command_btn_pressed() override;
+    void duplicate_command_btn_pressed();
     void new_command_btn_pressed();
     void delete_command_btn_pressed();
     /// True when the commands file was written. Whatever speaks against is shown to the user.
@@ -83,7 +85,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void load_stored_commands();
+    bool load_stored_commands();
     void start_intake();
     void connect_lists();
     void lay_out();

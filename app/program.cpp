@@ -21,8 +21,9 @@ Program::Program(QApplication& application)
     appearance_ = std::make_unique<Appearance>(application);
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/MirvantaApp/Resources/AppIcon.ico")));
     // English texts are the sources; without the file only forms that depend on a number are less than perfect.
-    if (translator_.load(QStringLiteral("VellumarkConfigure_en"), QCoreApplication::applicationDirPath(), QString(),
-                         QString()))
+    // The empty texts, other than null ones, leave the name as it is: the file has no extension.
+    if (translator_.load(QStringLiteral("VellumarkConfigure_en"), QCoreApplication::applicationDirPath(),
+                         QStringLiteral(""), QStringLiteral("")))
         QCoreApplication::installTranslator(&translator_);
     MVConfigLive::install(platform::program_folder());
 }

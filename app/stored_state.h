@@ -1,11 +1,10 @@
 #pragma once
 
-#include "engine/filters/extensions_preset.h"
+#include "store/commands_file.h"
 
 #include <vector>
 
 class CommandsListController;
-struct StoredCommands;
 
 /// The stored commands and presets, between the commands file and the two lists that show them. Main thread only.
 class StoredState
@@ -18,7 +17,8 @@ public:
     /// changed then.
     void load();
 
-    /// Writes the lists and the presets as they are; from then on they count as saved. Throws what
+    /// Writes the lists and the presets as they are; from then on they count as saved. After a `load` that failed the
+    /// first save keeps the file that it replaces. Throws what
     /// `commands_file::save` throws; nothing counts as saved then that didn't before.
     void save();
 
@@ -29,4 +29,6 @@ private:
     CommandsListController& library_;
     std::vector<ExtensionsPreset> presets_; ///< the user's, as edited
     std::vector<ExtensionsPreset> saved_presets_;
+    /// Kept by the next save when nothing could be loaded: the lists say nothing about what the file holds.
+    commands_file::OldFile old_file_ = commands_file::OldFile::Replaced;
 };

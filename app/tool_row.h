@@ -20,6 +20,7 @@ public:
 signals:
     /// A step was undone or redone, by whatever way the user chose here.
     void stepped();
+    /// "About" was chosen.
     void about_requested();
 
 private:

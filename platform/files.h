@@ -78,4 +78,11 @@ enum class Replacement : std::uint32_t {
 /// - The temporary file is locked (flock) meanwhile. A second call waits for it up to a second, then gives up.
 Replacement replace_content(std::u16string_view path, std::string_view content);
 
+/// Gives a file, or what a link to one leads to, a second name before `replace_content` takes the first one: a hard
+/// link, or a copy where there can be none. Nothing may be called `other` yet. False when neither could be made.
+bool keep_as(std::u16string_view path, std::u16string_view other);
+
+/// Removes a file or a link, as well as that can be done.
+void remove_file(std::u16string_view path);
+
 }

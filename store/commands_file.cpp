@@ -1,12 +1,14 @@
 #include "store/commands_file.h"
 
 #include "engine/commands/vellumark_command.h"
+#include "engine/text/utf.h"
 #include "platform/files.h"
 #include "store/command_factory.h"
 #include "store/mv_config.h"
 
 #include <algorithm>
 #include <stdexcept>
+#include <string>
 
 namespace json = boost::json;
 
@@ -77,12 +79,27 @@ void update_from_preset(VellumarkCommand& command, const std::vector<ExtensionsP
     command.set_file_filter(std::move(filter));
 }
 
+VellumarkCommand* follower_of_preset(MVCommandBase& entry)
+{
+    auto* command = dynamic_cast<VellumarkCommand*>(&entry);
+    return command && !command->file_filter_preset_uuid().empty() ? command : nullptr;
+}
+
 void update_from_presets(const CommandList& list, const std::vector<ExtensionsPreset>& presets)
 {
     for (const auto& entry : list)
-        if (auto* command = dynamic_cast<VellumarkCommand*>(entry.get());
-            command && !command->file_filter_preset_uuid().empty())
+        if (VellumarkCommand* command = follower_of_preset(*entry))
             update_from_preset(*command, presets);
+}
+
+/// The list as it will be, with clones in the place of the commands that change.
+CommandList updated_from_presets(CommandList list, const std::vector<ExtensionsPreset>& presets)
+{
+    for (auto& entry : list)
+        if (follower_of_preset(*entry))
+            entry = entry->clone();
+    update_from_presets(list, presets);
+    return list;
 }
 
 json::array list_to_json(const CommandList& list)
@@ -100,6 +117,50 @@ void write_in_one_step(std::u16string_view path, std::string_view content)
     case platform::Replacement::NotWritten: throw std::runtime_error("Failed to write commands to temporary file.");
     case platform::Replacement::NotReplaced: throw std::runtime_error("Failed to replace commands file.");
     }
+}
+
+/// Another name for the file, which it has for good once `keep` was called.
+class OtherName
+{
+public:
+    /// Has none when there is no file.
+    explicit OtherName(const std::u16string& path)
+    {
+        const auto file = platform::file_attributes(path);
+        if (!file || file->is_folder)
+            return;
+        std::u16string name = path + u".broken";
+        for (int number = 2; platform::exists(name); ++number)
+            name = path + u".broken" + to_utf16(std::to_string(number));
+        if (!platform::keep_as(path, name))
+            throw std::runtime_error("Failed to keep the old commands file.");
+        name_ = std::move(name);
+    }
+
+    ~OtherName()
+    {
+        if (!name_.empty())
+            platform::remove_file(name_);
+    }
+
+    OtherName(const OtherName&) = delete;
+    OtherName& operator=(const OtherName&) = delete;
+
+    void keep() { name_.clear(); }
+
+private:
+    std::u16string name_;
+};
+
+void replace_file(const std::u16string& path, std::string_view content, commands_file::OldFile old)
+{
+    if (old == commands_file::OldFile::Replaced) {
+        write_in_one_step(path, content);
+        return;
+    }
+    OtherName other(path);
+    write_in_one_step(path, content);
+    other.keep();
 }
 
 }
@@ -176,14 +237,16 @@ StoredCommands load()
     return commands.menu.empty() ? load_defaults() : commands;
 }
 
-void save(const CommandList& menu, const CommandList& library, const std::vector<ExtensionsPreset>& presets)
+void save(const CommandList& menu, const CommandList& library, const std::vector<ExtensionsPreset>& presets,
+          OldFile old)
 {
     const std::u16string path = MVConfig::get_global().path(FileKind::UserCommands);
+    const std::string content = json::serialize(
+        to_json(updated_from_presets(menu, presets), updated_from_presets(library, presets), presets));
+    create_parent_directories(path);
+    replace_file(path, content, old);
     update_from_presets(menu, presets);
     update_from_presets(library, presets);
-    const std::string content = json::serialize(to_json(menu, library, presets));
-    create_parent_directories(path);
-    write_in_one_step(path, content);
 }
 
 }

@@ -4,6 +4,7 @@
 #include "engine/filters/extensions_preset.h"
 #include "store/json_file_reader.h"
 
+#include <cstdint>
 #include <memory>
 #include <string_view>
 #include <vector>
@@ -44,13 +45,21 @@ CommandList menu_from_json(const boost::json::object& file);
 boost::json::array menu_to_json(const CommandList& menu);
 inline constexpr std::string_view menu_key = "menuCommands";
 
+/// What becomes of the file that a save replaces.
+enum class OldFile : std::uint32_t {
+    Replaced,
+    Kept ///< beside the new one as "VKCmds.json.broken", with a number from 2 on behind it where that exists
+};
+
 /// Writes the user's file in one step by way of a temporary file beside it, "VKCmds.json+", which is never read: the
 /// old file stays whole until the new one is. Where the file is a link, that stays and what it leads to is replaced.
 /// Of two programs that save at once the second waits, up to a second; whichever is last is then the file. File-name
-/// commands are brought up to date against `presets` first: a filter that follows a preset takes its extensions, and
-/// a link to a preset that is gone is dropped; they keep that when writing fails. Throws std::runtime_error "Failed
-/// to write commands to temporary file." or "Failed to replace commands file." or boost::filesystem::filesystem_error
-/// for the folder; the old file is then as it was.
-void save(const CommandList& menu, const CommandList& library, const std::vector<ExtensionsPreset>& presets);
+/// commands are brought up to date against `presets`: a filter that follows a preset takes its extensions, and a link
+/// to a preset that is gone is dropped. Throws std::runtime_error "Failed to write commands to temporary file.",
+/// "Failed to replace commands file." or "Failed to keep the old commands file.", or
+/// boost::filesystem::filesystem_error for the folder; the old file and the commands are then as they were, and
+/// nothing lies beside it.
+void save(const CommandList& menu, const CommandList& library, const std::vector<ExtensionsPreset>& presets,
+          OldFile old = OldFile::Replaced);
 
 }

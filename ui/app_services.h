@@ -20,6 +20,9 @@ public:
     /// The list whose tab shows; new and duplicated commands go there.
     virtual CommandsListController& active_list() = 0;
 
+    /// Makes the menu list the active one and shows its tab.
+    virtual void show_menu_list() = 0;
+
     virtual QUndoStack& undo_stack() = 0;
 
     /// The selection that texts and show marks are made of. Never null, always the same object.
@@ -32,7 +35,7 @@ public:
     virtual CommandControllerBase* current_editor() = 0;
 
     /// Puts a copy of the active list's current command behind it, as one undo step.
-    virtual void duplicate_command_btn_pressed() = 0;
+    virtual void duplicate_command() = 0;
 
     /// Replaces the menu list by the default commands, as one undo step; a failure is shown to the user.
     virtual void reset_stored_commands() = 0;

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <product_version.h>
+
 /// What the product is called and where it lives.
 namespace product {
 
 inline constexpr char name[] = "Vellumark";
-inline constexpr char version[] = "4.7.2.0";
+inline constexpr const char* version = product_version;
 /// Settings lie under these two names, so they never change.
 inline constexpr char organisation[] = "Mirvanta Software";
 inline constexpr char application[] = "Vellumark Configure";

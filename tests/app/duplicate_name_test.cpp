@@ -26,6 +26,7 @@ TEST(DuplicateName, FindsTheNextFreeEnding)
         {{u"Report (Copy 99999999999)", u""}, {}, {u"Report (Copy)", u""}},
         {{u"Report (Copy 2147483647)", u""}, {}, {u"Report (Copy 2147483648)", u""}},
         {{u"Report (Copy) old", u""}, {}, {u"Report (Copy) old (Copy)", u""}},
+        {{u"Report  (Copy)", u""}, {}, {u"Report  (Copy 2)", u""}},
         {{u"Report(copy)", u""}, {}, {u"Report (Copy 2)", u""}},
         {{u"", u""}, {}, {u" (Copy)", u""}},
         {{u"Names", u"Name"}, {u"Names (Copy)"}, {u"Names (Copy 2)", u"Name (Copy 2)"}},

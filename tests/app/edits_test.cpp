@@ -1,5 +1,8 @@
 #include "app_test.h"
 
+#include "app/list_edits.h"
+#include "store/mv_command_builtin.h"
+
 #include <QAction>
 #include <QTest>
 
@@ -60,6 +63,22 @@ TEST_F(AppTest, EditsTheActiveListInSingleSteps)
         app->undo_stack().redo();
         EXPECT_EQ(state(), c.expected);
     }
+}
+
+TEST_F(AppTest, ABuiltinCommandGoesToTheMenu)
+{
+    store("A, More", "L");
+    open();
+    const auto add = [this](const char16_t* name) {
+        list_edits::add(*app, std::make_shared<MVCommandBuiltin>(CommandType::MultiRename, name), "Add");
+    };
+    add(u"In");
+    EXPECT_EQ(state(), "menu[A, *In', More] library[*L] save");
+    show_tab(1);
+    add(u"Out");
+    EXPECT_EQ(state(), "menu[A, In', *Out', More] library[*L] save");
+    app->undo_stack().undo();
+    EXPECT_EQ(state(), "menu[A, *In', More] library[*L] save");
 }
 
 TEST_F(AppTest, DuplicateTakesTheEditsAlong)

@@ -1,10 +1,14 @@
 #include "app_test.h"
 #include "box_answer.h"
+#include "ui/lists/commands_list_model.h"
+#include "ui/lists/commands_table_view.h"
 
+#include <QLineEdit>
 #include <QSettings>
 #include <QSplitter>
 #include <QTest>
 
+#include <algorithm>
 #include <filesystem>
 #include <functional>
 
@@ -118,6 +122,29 @@ TEST_F(AppTest, LeavesAsTheUserAnswers)
         EXPECT_EQ(content(user_file) != before, c.saves);
         EXPECT_EQ(button("Save") != nullptr, c.edited && !c.saves && !c.closes);
     }
+}
+
+TEST_F(AppTest, AnOpenEditIsFinishedFirst)
+{
+    const auto type = [this](const QString& text) {
+        const auto views = app->findChildren<CommandsTableView*>();
+        auto* view = *std::ranges::find(views, &app->menu_list().model(), &CommandsTableView::model);
+        view->edit(app->menu_list().model().index(0, CommandsListModel::NameColumn));
+        QTest::keyClicks(view->findChild<QLineEdit*>(), text);
+    };
+    store("A, More");
+    open();
+    type("B");
+    app->save_commands_list();
+    EXPECT_EQ(flat(commands_file::load()), "menu[B, More] library[] presets[]");
+    type("C");
+    app->close_with_accept();
+    EXPECT_EQ(state(), "menu[*C', More] library[]");
+    app->show();
+    type("D");
+    const BoxAnswer box({"Save"});
+    press("OK");
+    EXPECT_EQ(flat(commands_file::load()), "menu[D, More] library[] presets[]");
 }
 
 TEST_F(AppTest, StaysWhenTheSaveOnLeavingIsRefused)

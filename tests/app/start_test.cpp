@@ -3,6 +3,7 @@
 
 #include <QLabel>
 #include <QSettings>
+#include <QTest>
 
 namespace {
 
@@ -59,6 +60,9 @@ TEST_F(AppTest, StartsWithFilesThatCantBeRead)
          "menu[] library[]"},
         {"{}", "", "Vellumark Configure|Failed to load stored commands\nJSON value missing: menuCommands|OK\n",
          "menu[] library[]"},
+        {"{}", R"({"commandType":"Vellumark","name":"Z","separator":""})",
+         "Vellumark Configure|Failed to load stored commands\nJSON value missing: menuCommands|OK\n",
+         "menu[] library[]"},
         {menu_empty, "{]", "", "menu[*A] library[]"},
         {menu_empty, R"({"commandType":"Vellumark"})", "", "menu[*A] library[]"},
     };
@@ -68,10 +72,27 @@ TEST_F(AppTest, StartsWithFilesThatCantBeRead)
         folder.write(last_file, c.last.empty() ? "[]" : c.last);
         const BoxAnswer box({"OK"});
         open_again();
+        EXPECT_EQ(box.seen(), "") << "the window comes first";
+        EXPECT_TRUE(QTest::qWaitFor([&] { return c.box.empty() || !box.seen().empty(); }, 60'000));
         EXPECT_EQ(shortened(box.seen()), c.box);
         EXPECT_EQ(state(), c.state);
         EXPECT_EQ(content(user_file), c.commands);
     }
+}
+
+TEST_F(AppTest, KeepsTheFileThatCouldntBeRead)
+{
+    ship("A, More");
+    folder.write(user_file, "typo");
+    open();
+    const BoxAnswer box({"OK"});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !box.seen().empty(); }, 60'000));
+    app->reset_stored_commands();
+    for (const char* kept : {".broken", ".broken2"}) {
+        EXPECT_TRUE(app->save_commands_list());
+        EXPECT_EQ(exists(std::string(user_file) + kept), std::string_view(kept) == ".broken");
+    }
+    EXPECT_EQ(content(std::string(user_file) + ".broken"), "typo");
 }
 
 TEST_F(AppTest, TellsWhyNoPageShowsAndOffersTheDefaults)

@@ -65,7 +65,7 @@ public:
 
     void stop_reading() override
     {
-        QTimer::singleShot(20, [this] {
+        QTimer::singleShot(20, &context_, [this] {
             reads_ = false;
             readers_.reading_ended();
         });
@@ -74,6 +74,7 @@ public:
 private:
     SelectionReaders& readers_;
     bool reads_ = true;
+    QObject context_; ///< takes the timers along when it goes
 };
 
 TEST_F(AppTest, LeavesTheSelectionAloneWhileItIsRead)

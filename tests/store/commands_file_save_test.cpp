@@ -95,17 +95,24 @@ TEST_F(CommandsFileSave, FiltersFollowThePresets)
                     R"(],"commandsLibrary":[)" + following("free", "", "own") + "," +
                     following("follows too", "2", "") + R"(],"extensionsPresets":[)" +
                     preset_json("1", "Images", "JPG;png") + "," + preset_json("2", "Texts", "txt") + "]}"));
+    const auto filters = [](const StoredCommands& stored) {
+        std::string text;
+        for (const CommandList& list : {stored.menu, stored.library})
+            for (const auto& entry : list) {
+                const auto& command = dynamic_cast<const VellumarkCommand&>(*entry);
+                text += to_utf8(command.name() + u": " + command.file_filter().filter_pattern() + u" <" +
+                                command.file_filter_preset_uuid() + u">\n");
+            }
+        return text;
+    };
+    folder.make_folder(temporary_file);
+    EXPECT_EQ(error_of([&] { save(commands); }), "Failed to write commands to temporary file.");
+    EXPECT_EQ(filters(commands), "follows: old <1>\nlost: kept <9>\nfree: own <>\nfollows too:  <2>\n");
+    std::filesystem::remove(folder.host(temporary_file));
     save(commands);
-    const StoredCommands saved = commands_file::load();
-    std::string filters;
-    for (const CommandList& list : {commands.menu, commands.library, saved.menu, saved.library})
-        for (const auto& entry : list) {
-            const auto& command = dynamic_cast<const VellumarkCommand&>(*entry);
-            filters += to_utf8(command.name() + u": " + command.file_filter().filter_pattern() + u" <" +
-                               command.file_filter_preset_uuid() + u">\n");
-        }
-    const std::string once = "follows: jpg;png <1>\nlost: kept <>\nfree: own <>\nfollows too: txt <2>\n";
-    EXPECT_EQ(filters, once + once);
+    const std::string updated = "follows: jpg;png <1>\nlost: kept <>\nfree: own <>\nfollows too: txt <2>\n";
+    EXPECT_EQ(filters(commands), updated);
+    EXPECT_EQ(filters(commands_file::load()), updated);
 }
 
 TEST_F(CommandsFileSave, FailureLeavesTheOldFile)
@@ -137,6 +144,33 @@ TEST_F(CommandsFileSave, FailureLeavesTheOldFile)
     std::filesystem::remove_all(folder.host("user"));
     folder.write("user", "no folder");
     EXPECT_EQ(save_error().substr(0, 18), "create_directories");
+}
+
+TEST_F(CommandsFileSave, KeepsTheOldFileWhenAsked)
+{
+    const auto save_error = [&] {
+        return error_of([] { commands_file::save({}, {}, {}, commands_file::OldFile::Kept); });
+    };
+    const std::string kept = std::string(user_file) + ".broken";
+    EXPECT_EQ(save_error(), "no error");
+    EXPECT_FALSE(exists(kept)) << "there was none";
+
+    folder.write(user_file, "first");
+    folder.make_folder(temporary_file);
+    EXPECT_EQ(save_error(), "Failed to write commands to temporary file.");
+    EXPECT_FALSE(exists(kept));
+    EXPECT_EQ(content(user_file), "first");
+    std::filesystem::remove(folder.host(temporary_file));
+    EXPECT_EQ(save_error(), "no error");
+    const std::string saved = content(user_file);
+
+    folder.write("elsewhere", "second");
+    std::filesystem::remove(folder.host(user_file));
+    folder.make_link(user_file, folder.host("elsewhere"));
+    EXPECT_EQ(save_error(), "no error");
+    EXPECT_EQ(content(kept), "first");
+    EXPECT_EQ(content(kept + "2"), "second");
+    EXPECT_EQ(content("elsewhere"), saved);
 }
 
 }

@@ -56,7 +56,7 @@ class Commands(ToolTest):
                 self.check_refused(2, message, *arguments)
 
     def test_help_and_version_come_alone(self):
-        for option, start in [("--help", b"Usage: "), ("-h", b"Usage: "), ("--version", b"vellumark-text ")]:
+        for option, start in [("--help", b"Usage: "), ("-h", b"Usage: "), ("--version", b"vellumark-text 4.7.2.0\n")]:
             with self.subTest(option):
                 status, out, errors = self.run_tool(option, own_commands=False)
                 self.assertEqual((status, out.startswith(start), errors), (0, True, b""))

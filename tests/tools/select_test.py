@@ -109,7 +109,7 @@ class Handover(SelectTest):
         ]:
             with self.subTest(arguments):
                 self.check_refused(2, message, *arguments)
-        for option, start in [("--help", b"Usage: "), ("--version", b"vellumark-select ")]:
+        for option, start in [("--help", b"Usage: "), ("--version", b"vellumark-select 4.7.2.0\n")]:
             status, out, errors = self.run_tool(option)
             self.assertEqual((status, out.startswith(start), errors), (0, True, b""))
 

@@ -74,6 +74,13 @@ TEST_F(CommandsListUse, RowsFollowTheUser)
     click(0, 0, Qt::ControlModifier);
     EXPECT_EQ(menu_shown(), ">A B +C D ");
     EXPECT_EQ(clicks.count(), 2);
+    const int steps = app.stack.index();
+    key(Qt::Key_End);
+    EXPECT_EQ(menu_shown(), "A B C >D ");
+    key(Qt::Key_Up);
+    key(Qt::Key_Home, Qt::ShiftModifier);
+    EXPECT_EQ(menu_shown(), ">A +B +C D ");
+    app.stack.setIndex(steps);
     app.stack.undo();
     EXPECT_EQ(menu_shown(), "A B >C D ");
     app.stack.undo();
@@ -204,6 +211,11 @@ TEST_F(CommandsListUse, WaysToTheMenu)
     ask(QContextMenuEvent::Mouse, in_cell(2, 1));
     EXPECT_EQ(open_menu(), "Delete, Move to Commands Library");
     EXPECT_EQ(menu_shown(), "+A B >C D ");
+    key(Qt::Key_Down, Qt::ControlModifier);
+    EXPECT_EQ(menu_shown(), "+A B +C ?D ");
+    key(Qt::Key_F10, Qt::ShiftModifier);
+    EXPECT_EQ(open_menu(), one);
+    EXPECT_EQ(menu_shown(), "A B C >D ");
     ask(QContextMenuEvent::Mouse, in_cell(3, 1) + QPoint(0, 60));
     EXPECT_EQ(open_menu(), "none") << "below the last row";
 

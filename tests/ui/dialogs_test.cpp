@@ -48,6 +48,8 @@ public:
 
     CommandsListController& active_list() override { throw std::logic_error("active_list"); }
 
+    void show_menu_list() override { throw std::logic_error("show_menu_list"); }
+
     QUndoStack& undo_stack() override { throw std::logic_error("undo_stack"); }
 
     std::shared_ptr<const MVItemsSet> selected_items() const override { throw std::logic_error("selected_items"); }
@@ -56,7 +58,7 @@ public:
 
     CommandControllerBase* current_editor() override { throw std::logic_error("current_editor"); }
 
-    void duplicate_command_btn_pressed() override { throw std::logic_error("duplicate"); }
+    void duplicate_command() override { throw std::logic_error("duplicate"); }
 
     void reset_stored_commands() override { ++resets; }
 

@@ -19,6 +19,8 @@ public:
 
     CommandsListController& active_list() override { return menu; }
 
+    void show_menu_list() override { calls += "menu "; }
+
     QUndoStack& undo_stack() override { return stack; }
 
     std::shared_ptr<const MVItemsSet> selected_items() const override { return items; }
@@ -27,7 +29,7 @@ public:
 
     CommandControllerBase* current_editor() override { return editor; }
 
-    void duplicate_command_btn_pressed() override { calls += "duplicate "; }
+    void duplicate_command() override { calls += "duplicate "; }
 
     void reset_stored_commands() override { calls += "reset "; }
 

@@ -3,6 +3,7 @@
 #include "common/printable.h"
 
 #include <boost/system/system_error.hpp>
+#include <product_version.h>
 
 #include <cerrno>
 #include <cstdio>
@@ -32,7 +33,7 @@ bool Tool::answered(const CommonOptions& options, const std::function<std::strin
 {
     if (!options.help && !options.version)
         return false;
-    write_out(options.help ? help() : name_ + " " VELLUMARK_VERSION "\n");
+    write_out(options.help ? help() : name_ + " " + product_version + "\n");
     finish_output();
     return true;
 }

@@ -26,6 +26,7 @@ NoCommandsWidget::NoCommandsWidget(AppServices& app, QWidget* parent)
     connect(reset_button_, &QPushButton::clicked, this, [&app] { app.reset_stored_commands(); });
 
     auto* layout = new QVBoxLayout(this);
+    layout->setSpacing(0);
     layout->addStretch();
     layout->addWidget(label_);
     layout->addSpacing(36);

@@ -93,6 +93,10 @@ void CommandsListWidget::show_menu(QPoint global_position, int row)
     if (!controller_.command_at(row))
         return;
     controller_.select(row);
+    // The keyboard can be in a row without selecting it; what the entries act on is what is selected.
+    if (CommandsSelectionModel& selection = controller_.selection(); !selection.isRowSelected(row))
+        selection.select(controller_.model().index(row, CommandsListModel::NameColumn),
+                         QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     for (ListMenuEntry& entry : menu_entries(row))
@@ -114,8 +118,7 @@ std::vector<ListMenuEntry> CommandsListWidget::menu_entries(int row)
         if (offered)
             entries.push_back({text, std::move(run)});
     };
-    add(one && editor && editor->allows_duplicate(), tr("Duplicate"),
-        [this] { app_.duplicate_command_btn_pressed(); });
+    add(one && editor && editor->allows_duplicate(), tr("Duplicate"), [this] { app_.duplicate_command(); });
     add(one, tr("Rename"), [this, row] { ask_names(row); });
     add(true, tr("Delete"), [this] { controller_.delete_selected(); });
     add(is_library_, tr("Move to Context Menu"), [this] { emit move_commands(); });

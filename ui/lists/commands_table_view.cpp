@@ -6,6 +6,7 @@
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPointer>
 
 #include <algorithm>
 
@@ -61,6 +62,23 @@ void CommandsTableView::show_row(const QModelIndex& index)
 {
     executeDelayedItemsLayout();
     scrollTo(index);
+}
+
+void CommandsTableView::finish_edit()
+{
+    const QPointer editor = indexWidget(currentIndex());
+    if (!editor)
+        return;
+    commitData(editor);
+    if (editor)
+        closeEditor(editor, QAbstractItemDelegate::NoHint);
+}
+
+QModelIndex CommandsTableView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    if (action != MoveHome && action != MoveEnd)
+        return QTableView::moveCursor(action, modifiers);
+    return model()->index(action == MoveHome ? 0 : model()->rowCount() - 1, CommandsListModel::NameColumn);
 }
 
 QPoint CommandsTableView::cell_centre(const QModelIndex& index) const

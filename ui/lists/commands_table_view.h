@@ -16,6 +16,9 @@ public:
     /// Scrolls no further than it takes to see the row, also right after the rows were replaced.
     void show_row(const QModelIndex& index);
 
+    /// Takes over what is typed into a name that is being edited.
+    void finish_edit();
+
     /// The middle of a cell, in global coordinates.
     QPoint cell_centre(const QModelIndex& index) const;
 
@@ -25,6 +28,8 @@ signals:
     void show_context_menu(QPoint global_position, int row);
 
 protected:
+    /// Home and End go to the first and the last row.
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;

@@ -5,6 +5,7 @@
 #include "store/builtin_command_info.h"
 #include "ui/app_services.h"
 
+#include <algorithm>
 #include <chrono>
 
 namespace {
@@ -14,6 +15,9 @@ using Clock = std::chrono::steady_clock;
 
 /// A tall screen full of rows takes a quarter of a frame.
 constexpr auto first_look = 50us;
+/// Of all first looks of one paint. A single item can cost more when an expression runs away; the rows after it are
+/// not looked at then.
+constexpr auto first_looks = 4ms;
 constexpr auto slice = 5ms;
 /// More than a screen shows; what was scrolled away asks again when it comes back.
 constexpr std::size_t most_waiting = 256;
@@ -41,10 +45,22 @@ bool ShowMarks::filters_pass(const Command& command, const VellumarkCommand& vel
     const auto [entry, is_new] = searches_.try_emplace(command);
     Search& search = entry->second;
     if (is_new)
-        go_on(search, vellumark, Clock::now() + first_look);
+        take_first_look(search, vellumark);
     if (!search.known)
         wait_for(command);
     return search.shown;
+}
+
+void ShowMarks::take_first_look(Search& search, const VellumarkCommand& command)
+{
+    if (spent_ >= first_looks)
+        return;
+    if (spent_ == spent_.zero())
+        QTimer::singleShot(0, &timer_, [this] { spent_ = spent_.zero(); });
+    const auto start = Clock::now();
+    go_on(search, command, start + first_look);
+    // Never nothing, so that one paint asks for one timer.
+    spent_ += std::max<Clock::duration>(Clock::now() - start, 1ns);
 }
 
 void ShowMarks::go_on(Search& search, const VellumarkCommand& command, Clock::time_point until) const

@@ -37,6 +37,7 @@ private:
         bool shown = true;
     };
 
+    void take_first_look(Search& search, const VellumarkCommand& command);
     bool filters_pass(const Command& command, const VellumarkCommand& vellumark);
     /// Looks at further items, at least at one.
     void go_on(Search& search, const VellumarkCommand& command, std::chrono::steady_clock::time_point until) const;
@@ -49,4 +50,6 @@ private:
     std::unordered_map<Command, Search> searches_;
     std::vector<Command> waiting_; ///< what was asked for last is answered first
     QTimer timer_;
+    /// On first looks since the event loop ran last, which is what one paint takes.
+    std::chrono::steady_clock::duration spent_{};
 };
