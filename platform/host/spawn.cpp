@@ -23,7 +23,8 @@ public:
         put(streams.input, STDIN_FILENO, O_RDONLY);
         put(streams.output, STDOUT_FILENO, O_WRONLY);
         put(-1, STDERR_FILENO, O_WRONLY);
-        posix_spawn_file_actions_addclosefrom_np(&actions_, (streams.socket >= 0 ? socket_of_program : STDERR_FILENO) + 1);
+        posix_spawn_file_actions_addclosefrom_np(&actions_,
+                                                 (streams.socket >= 0 ? socket_of_program : STDERR_FILENO) + 1);
         posix_spawn_file_actions_addchdir_np(&actions_, "/");
         sigset_t all{}, none{};
         sigfillset(&all);

@@ -14,8 +14,8 @@ struct ProgramCall {
     std::vector<std::string> arguments;
 };
 
-/// The descriptors that a program gets. Its standard input and output, -1 for /dev/null; and a socket to its caller as
-/// descriptor 3, -1 for none. A caller gives streams or a socket, not both.
+/// The descriptors that a program gets. Its standard input and output, -1 for /dev/null; and a socket to its caller
+/// as descriptor 3, -1 for none. A caller gives streams or a socket, not both.
 struct ProgramStreams {
     int input = -1;
     int output = -1;

@@ -2,8 +2,12 @@
 once."""
 
 import pyatspi
+from gi.repository import GLib
 
 from desktop import wait_until
+
+# What asking a node that has just gone away raises.
+GONE = (LookupError, GLib.GError)
 
 
 def application(name):
@@ -20,7 +24,7 @@ def walk(node):
     yield node
     try:
         children = [node.getChildAtIndex(i) for i in range(node.childCount)]
-    except LookupError:
+    except GONE:
         return
     for child in children:
         if child is not None:
@@ -33,13 +37,18 @@ def is_showing(node):
 
 def find_all(root, role=None, name=None, showing=True):
     """Nodes below `root` by role ("push button", "label", "text", "table cell", ...) and name."""
-    return [
-        node
-        for node in walk(root)
-        if (role is None or node.getRoleName() == role)
-        and (name is None or node.name == name)
-        and (not showing or is_showing(node))
-    ]
+
+    def matches(node):
+        try:
+            return (
+                (role is None or node.getRoleName() == role)
+                and (name is None or node.name == name)
+                and (not showing or is_showing(node))
+            )
+        except GONE:
+            return False
+
+    return [node for node in walk(root) if matches(node)]
 
 
 def find(root, role=None, name=None, showing=True):

@@ -45,7 +45,7 @@ class Start(ProgramTest):
     def test_broken_commands_file(self):
         broken = b'{"menuCommands": [{"commandType"'
         self.program.write("VKCmds.json", broken)
-        self.program.start()
+        self.program.start(with_box=True)
         self.assertIn("Failed to load stored commands\n", self.program.answer_box("OK"))
         accessibility.find(self.program.root, "label", "Context menu commands list is empty")
         self.wait_for_rows()

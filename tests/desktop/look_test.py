@@ -37,7 +37,7 @@ ForegroundNormal=252,252,252
 
 def setUpModule():
     os.makedirs(PICTURES, exist_ok=True)
-    ProgramTest.desktop = Desktop("1920x1400")
+    ProgramTest.desktop = Desktop("2600x1800")
     unittest.addModuleCleanup(ProgramTest.desktop.close)
 
 
@@ -119,10 +119,10 @@ class Look(ProgramTest):
 
     def test_empty_list(self):
         self.program.write("VKCmds.json", b"{")
-        self.start()
-        self.take("failure")
+        self.start(with_box=True)
+        self.take("failure", self.box())
         self.program.answer_box("OK")
-        wait_until(lambda: self.program.window not in self.desktop.windows(TITLE), "the end of the box")
+        wait_until(lambda: len(self.desktop.windows(TITLE)) == 1, "the end of the box")
         self.program.attach()
         accessibility.find(self.program.root, "push button", "Reset to default commands list")
         self.take("empty")

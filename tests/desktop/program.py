@@ -70,24 +70,27 @@ class Program:
         stored = json.loads(self.read())
         return tuple([command["name"] for command in stored[key]] for key in ("menuCommands", "commandsLibrary"))
 
-    def start(self, **environment):
+    def start(self, with_box=False, **environment):
+        """`with_box`: a box comes with the window and has the focus."""
         self.process = self.desktop.start(
             FOLDER + "/VellumarkConfigure", env=self.environment | environment, stderr=subprocess.PIPE
         )
-        self.attach(self.process.pid)
+        self.attach(self.process.pid, with_box)
 
-    def attach(self, process=None):
-        """Finds the window of the process, or of whichever runs, and brings it to the front."""
-        self.window = wait_until(lambda: self._window_of(process), "the window")
+    def attach(self, process=None, with_box=False):
+        """Finds the window of the process, or of whichever runs, and brings it to the front unless a box is there."""
+        windows = wait_until(lambda: self._windows_of(process, 2 if with_box else 1), "the window")
+        self.window = max(windows, key=lambda window: self.desktop.geometry(window)[3])
         self.root = wait_until(self._find_root, "the accessible window")
-        self.desktop.focus(self.window)
+        if not with_box:
+            self.desktop.focus(self.window)
 
     def window_process(self, window):
         return int(self.desktop.ask("xdotool", "getwindowpid", window) or 0)
 
-    def _window_of(self, process):
-        windows = self.desktop.windows(TITLE)
-        return next((w for w in windows if process in (None, self.window_process(w))), None)
+    def _windows_of(self, process, count):
+        windows = [w for w in self.desktop.windows(TITLE) if process in (None, self.window_process(w))]
+        return windows if len(windows) >= count else None
 
     def _find_root(self):
         process = self.window_process(self.window)
@@ -201,7 +204,13 @@ class ProgramTest(unittest.TestCase):
     def wait_for(self, expected, actual, **arguments):
         """Until the function gives what is expected; else tells the difference."""
         end = time.monotonic() + HANG
-        while (value := actual(**arguments)) != expected and time.monotonic() < end:
+        while True:
+            try:
+                value = actual(**arguments)
+            except accessibility.GONE as gone:
+                value = gone
+            if value == expected or time.monotonic() > end:
+                break
             time.sleep(0.02)
         self.assertEqual(value, expected)
 
