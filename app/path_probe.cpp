@@ -12,12 +12,12 @@
 #include <utility>
 
 struct PathProbe::Run {
-    Run(PathProbe& probe, Look look_at, int index, QStringList selected)
-        : look(std::move(look_at)), command_index(index), paths(std::move(selected)), receiver(&probe)
+    Run(PathProbe& probe, quint64 number_of_run, int index, QStringList selected)
+        : look(probe.look_), number(number_of_run), command_index(index), paths(std::move(selected)), receiver(&probe)
     {}
 
     /// On the run's thread.
-    void look_at_all(const std::shared_ptr<Run>& self)
+    void look_at_all()
     {
         for (const QString& path : paths) {
             if (is_forgotten)
@@ -26,15 +26,7 @@ struct PathProbe::Run {
         }
         const std::lock_guard lock(mutex);
         if (receiver)
-            QMetaObject::invokeMethod(
-                receiver, [self] { self->tell(); }, Qt::QueuedConnection);
-    }
-
-    /// On the main thread, where nothing forgets it meanwhile.
-    void tell() const
-    {
-        if (!is_forgotten)
-            emit receiver->answered(command_index, paths);
+            emit receiver->run_ended(number, QPrivateSignal());
     }
 
     void forget()
@@ -45,6 +37,7 @@ struct PathProbe::Run {
     }
 
     const Look look;
+    const quint64 number;
     const int command_index;
     const QStringList paths;
     std::atomic<bool> is_forgotten = false;
@@ -52,7 +45,10 @@ struct PathProbe::Run {
     PathProbe* receiver; ///< null once the run is forgotten
 };
 
-PathProbe::PathProbe(Look look, QObject* parent) : QObject(parent), look_(std::move(look)) {}
+PathProbe::PathProbe(Look look, QObject* parent) : QObject(parent), look_(std::move(look))
+{
+    connect(this, &PathProbe::run_ended, this, &PathProbe::tell, Qt::QueuedConnection);
+}
 
 PathProbe::~PathProbe()
 {
@@ -67,13 +63,20 @@ void PathProbe::read_attributes(const QString& path)
 void PathProbe::start(int command_index, const QStringList& paths)
 {
     forget();
-    run_ = std::make_shared<Run>(*this, look_, command_index, paths);
+    run_ = std::make_shared<Run>(*this, ++runs_, command_index, paths);
     try {
-        std::thread([run = run_] { run->look_at_all(run); }).detach();
+        std::thread([run = run_] { run->look_at_all(); }).detach();
     } catch (const std::system_error& error) {
         qDebug() << "No thread to look at the paths:" << error.what();
-        run_->tell();
+        emit run_ended(runs_, QPrivateSignal());
     }
+}
+
+void PathProbe::tell(quint64 number)
+{
+    // An older run's end may still have been on its way.
+    if (number == runs_)
+        emit answered(run_->command_index, run_->paths);
 }
 
 void PathProbe::forget()

@@ -27,14 +27,19 @@ public slots:
     void start(int command_index, const QStringList& paths);
 
 signals:
-    /// Every path of the newest selection has answered. Comes later than `start`, unless no thread can be had.
+    /// Every path of the newest selection has answered, or no thread can be had to ask them. Comes later than
+    /// `start`.
     void answered(int command_index, QStringList paths);
+
+    void run_ended(quint64 number, QPrivateSignal);
 
 private:
     struct Run;
 
+    void tell(quint64 number);
     void forget();
 
     const Look look_;
     std::shared_ptr<Run> run_; ///< shared with its thread
+    quint64 runs_ = 0;         ///< the newest run's number
 };

@@ -171,6 +171,7 @@ TEST_F(MessagePipeTest, ClientsThatWaitAtTheCloseAreNotTaken)
     EXPECT_TRUE(sent.get());
 }
 
+#ifndef __SANITIZE_ADDRESS__ // the sanitizer looks at memory through descriptors of its own
 TEST_F(MessagePipeTest, FullTableOfFilesKeepsTheClientsWaiting)
 {
     const auto pipe = create();
@@ -185,6 +186,7 @@ TEST_F(MessagePipeTest, FullTableOfFilesKeepsTheClientsWaiting)
     EXPECT_FALSE(connected.get());
     close(client);
 }
+#endif
 
 TEST_F(MessagePipeTest, DroppedMessageIsAnErrorOfTheSender)
 {
