@@ -1,9 +1,12 @@
 #include "app/editors.h"
+#include "app/exit_deadline.h"
 #include "app/mirvanta_app.h"
 #include "app/program.h"
 #include "ui/clipboard/system_clipboard.h"
 
 #include <QApplication>
+
+#include <chrono>
 
 int main(int argc, char* argv[])
 {
@@ -15,5 +18,8 @@ int main(int argc, char* argv[])
     // The window is hidden already when a comparison of checksums ends the run.
     QObject::connect(&window, &QDialog::finished, &application, &QCoreApplication::quit);
     window.show();
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    // More than the toolkit takes to hand to a clipboard manager what was copied in an edit.
+    end_process_within(std::chrono::seconds(10), status);
+    return status;
 }

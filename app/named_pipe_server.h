@@ -29,6 +29,10 @@ public:
     /// Throws std::runtime_error ("CreateThread() failed with error N") when there can be no thread.
     void start(const platform::PipePatience& patience = {});
 
+    /// From here on the thread leaves this object alone and senders are refused; another program may have the pipe's
+    /// name. Waits for a call in progress. Every class that can be destroyed calls it first in its destructor.
+    void end_delivery();
+
     static constexpr std::size_t largest_message = selection_protocol::largest_message;
     /// Where a client that doesn't end its message is dropped.
     static constexpr std::size_t largest_stream = 64 << 20;
@@ -36,10 +40,6 @@ public:
 protected:
     NamedPipeServer();
     ~NamedPipeServer();
-
-    /// From here on the thread leaves this object alone and senders are refused; another program may have the pipe's
-    /// name. Waits for a call in progress. Every class that can be destroyed calls it first in its destructor.
-    void end_delivery();
 
 private:
     class Receiver;

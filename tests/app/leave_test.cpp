@@ -1,5 +1,8 @@
+#include "app/exit_deadline.h"
 #include "app_test.h"
 #include "box_answer.h"
+#include "engine/items/selection_protocol.h"
+#include "platform/message_pipe.h"
 #include "ui/lists/commands_list_model.h"
 #include "ui/lists/commands_table_view.h"
 
@@ -9,8 +12,10 @@
 #include <QTest>
 
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
 #include <functional>
+#include <thread>
 
 namespace {
 
@@ -190,6 +195,28 @@ TEST_F(AppTest, KeepsTheWindowsStateHoweverItIsLeft)
         EXPECT_EQ(app->findChild<QSplitter*>()->sizes(), sizes);
         EXPECT_EQ(static_cast<const TestPage*>(editor->main_widget())->restored, 7);
     }
+}
+
+TEST_F(AppTest, TakesNoSelectionOnceItIsLeft)
+{
+    store("A, More");
+    open();
+    const auto send = [] {
+        return platform::send_message(selection_protocol::pipe_name, "{}", std::chrono::seconds(10));
+    };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !send(); }));
+    press("Cancel");
+    EXPECT_TRUE(send());
+}
+
+TEST(EndProcess, ComesThoughTheRestHangs)
+{
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    const auto hang = [] {
+        end_process_within(std::chrono::milliseconds(10), 7);
+        std::this_thread::sleep_for(std::chrono::hours(1));
+    };
+    EXPECT_EXIT(hang(), testing::ExitedWithCode(7), "");
 }
 
 }
