@@ -125,11 +125,6 @@ void MainAppUi::show_tab(int tab)
     tabs_->setCurrentIndex(tab);
 }
 
-void MainAppUi::focus_list()
-{
-    tabs_->currentWidget()->setFocus();
-}
-
 void MainAppUi::finish_edits()
 {
     for (const CommandsListWidget* list : findChildren<CommandsListWidget*>())

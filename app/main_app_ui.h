@@ -32,8 +32,6 @@ public:
     void enable_delete_button(bool enabled);
 
     void show_tab(int tab);
-    /// Moves the focus to the list that shows.
-    void focus_list();
 
     /// Takes over what is typed into a name that is being edited in a list.
     void finish_edits();

@@ -74,7 +74,6 @@ MirvantaApp::MirvantaApp(const MakeEditors& make_editors)
     show_list(in_library ? library_tab : menu_tab);
     // Nobody has told of a current command where the list is empty.
     current_command_changed();
-    ui_->focus_list();
 }
 
 MirvantaApp::~MirvantaApp() = default;
@@ -142,6 +141,8 @@ void MirvantaApp::lay_out()
     inner->addWidget(box);
     outer->addLayout(inner, 1);
     give_buttons_one_width(*box);
+    // The command of the last run is current and its text is there, so that Return is all it takes.
+    box->button(QDialogButtonBox::Ok)->setFocus();
 }
 
 void MirvantaApp::restore_window()
@@ -183,6 +184,8 @@ void MirvantaApp::done(int result)
 {
     ui_->finish_edits();
     save_window_state();
+    // Who sends a selection from now on is refused, and starts the program anew.
+    pipe_server_.end_delivery();
     QDialog::done(result);
 }
 

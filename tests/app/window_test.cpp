@@ -15,6 +15,8 @@
 #include <QToolButton>
 #include <QUrl>
 
+#include <utility>
+
 namespace {
 
 TEST_F(AppTest, TakesSelections)
@@ -95,12 +97,15 @@ TEST_F(AppTest, LeavesTheSelectionAloneWhileItIsRead)
     EXPECT_EQ(state(), "menu[A, B, *C] library[]");
 }
 
-TEST_F(AppTest, SwallowsReturnWhereTheDialogHasNoFocus)
+TEST_F(AppTest, ReturnIsForTheDefaultButtonAlone)
 {
     store("A, More");
     open();
+    editor->may_close = false;
     app->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(app.get()));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(std::exchange(editor->calls, ""), "run ");
     auto* list = app->findChild<CommandsTableView*>();
     list->setFocus();
     ASSERT_TRUE(list->hasFocus());
