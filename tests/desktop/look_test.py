@@ -4,8 +4,9 @@ import os
 import unittest
 
 import accessibility
+from big_file import BigFile
 from desktop import Desktop, wait_until
-from program import TITLE, UNSAVED, ProgramTest
+from program import TITLE, UNSAVED, ProgramTest, shipped_commands
 
 PICTURES = os.environ["PICTURES"]
 SAMPLES = os.environ["SAMPLES"]
@@ -99,14 +100,10 @@ class Look(ProgramTest):
                 self.assertFalse(self.holds(picture, shown[other]))
                 self.assertEqual(self.measure(picture) < 0.5, scheme == "dark")
                 self.program.press("OK")
-                self.desktop.focus(self.box())
-                self.take("question-" + scheme, self.box())
+                self.desktop.focus(self.program.box())
+                self.take("question-" + scheme, self.program.box())
                 self.program.answer_box("Don't Save")
                 self.check_end()
-
-    def box(self):
-        """The window of the box that stands over the main one."""
-        return wait_until(lambda: set(self.desktop.windows(TITLE)) - {self.program.window}, "the box").pop()
 
     def test_double_scale(self):
         self.start()
@@ -117,10 +114,28 @@ class Look(ProgramTest):
         self.assertEqual(self.desktop.geometry(self.program.window)[2:], tuple(2 * side for side in size))
         self.take_windows("double", "#0080ff")
 
+    def test_waiting(self):
+        names = [command["name"] for command in shipped_commands()["menuCommands"]]
+        index = str(names.index("Copy SHA-256 Checksums"))
+        big = BigFile(self.program.home + "/" + "Backup of the whole disk, " * 6 + "2024.img")
+        for name, options in (("light", {}), ("dark", {"is_dark": True}), ("double", {"QT_SCALE_FACTOR": "2"})):
+            self.start(**options)
+            self.assertEqual(self.program.select("--index", index, big.path), (0, ""))
+            accessibility.find(self.program.root, "label", "Updating...")
+            self.program.press("OK")
+            dialog = self.program.box()
+            self.wait_for(2, lambda: len(accessibility.find_all(self.program.root, "label", "Computing checksums...")))
+            self.take("waiting-" + name, dialog)
+            self.desktop.focus(dialog)
+            self.desktop.key("Escape")
+            self.wait_for([self.program.window], lambda: self.desktop.windows(TITLE))
+            self.program.press("Cancel")
+            self.check_end()
+
     def test_empty_list(self):
         self.program.write("VKCmds.json", b"{")
         self.start(with_box=True)
-        self.take("failure", self.box())
+        self.take("failure", self.program.box())
         self.program.answer_box("OK")
         wait_until(lambda: len(self.desktop.windows(TITLE)) == 1, "the end of the box")
         self.program.attach()

@@ -2,6 +2,7 @@
 
 import json
 import os
+import shutil
 import socket
 import subprocess
 import tempfile
@@ -13,6 +14,7 @@ import pyatspi
 from desktop import HANG, wait_until
 
 FOLDER = os.environ["PROGRAMS"]
+KEEPER = "vellumark-clipboard"
 TITLE = "^Vellumark Configure$"
 NAME_COLUMN = 1
 MENU_ENTRIES = ("Duplicate", "Rename", "Delete", "Move to Commands Library")
@@ -29,6 +31,7 @@ class Program:
 
     def __init__(self, desktop):
         self.desktop = desktop
+        self.folder = FOLDER
         self.home = tempfile.mkdtemp(dir=desktop.home)
         self.runtime = self.home + "/runtime"
         os.mkdir(self.runtime, 0o700)
@@ -70,10 +73,16 @@ class Program:
         stored = json.loads(self.read())
         return tuple([command["name"] for command in stored[key]] for key in ("menuCommands", "commandsLibrary"))
 
+    def move(self):
+        """Into a folder of its own, where a test may replace what lies beside it."""
+        self.folder = tempfile.mkdtemp(dir=self.home)
+        for name in ("VellumarkConfigure", KEEPER, "VKCmds.json", "VKDefaultPresets.json", "VKGallery.json"):
+            shutil.copy(f"{FOLDER}/{name}", self.folder)
+
     def start(self, with_box=False, **environment):
         """`with_box`: a box comes with the window and has the focus."""
         self.process = self.desktop.start(
-            FOLDER + "/VellumarkConfigure", env=self.environment | environment, stderr=subprocess.PIPE
+            self.folder + "/VellumarkConfigure", env=self.environment | environment, stderr=subprocess.PIPE
         )
         self.attach(self.process.pid, with_box)
 
@@ -150,6 +159,10 @@ class Program:
 
     def press(self, name):
         accessibility.press(accessibility.find(self.root, "push button", name))
+
+    def box(self):
+        """The window of the box that stands over the main one."""
+        return wait_until(lambda: set(self.desktop.windows(TITLE)) - {self.window}, "the box").pop()
 
     def answer_box(self, button):
         """Presses a button of the box that shows; what the box says."""
