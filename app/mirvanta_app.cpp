@@ -225,6 +225,8 @@ void MirvantaApp::on_context_menu_selected(int command_index, const QStringList&
     raise();
     activateWindow();
     probe_.start(command_index, paths);
+    if (current_editor_)
+        current_editor_->selection_coming();
 }
 
 void MirvantaApp::take_selection(int command_index, const QStringList& paths)

@@ -46,6 +46,8 @@ public:
 
     SelectionReaders& selection_readers() override { return intake_; }
 
+    bool is_selection_coming() const override { return probe_.is_running() || intake_.is_selection_waiting(); }
+
     CommandControllerBase* current_editor() override { return current_editor_; }
 
     void show_menu_list() override;

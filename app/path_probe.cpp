@@ -75,8 +75,10 @@ void PathProbe::start(int command_index, const QStringList& paths)
 void PathProbe::tell(quint64 number)
 {
     // An older run's end may still have been on its way.
-    if (number == runs_)
-        emit answered(run_->command_index, run_->paths);
+    if (number != runs_)
+        return;
+    told_ = number;
+    emit answered(run_->command_index, run_->paths);
 }
 
 void PathProbe::forget()

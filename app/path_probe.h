@@ -22,6 +22,8 @@ public:
 
     static void read_attributes(const QString& path);
 
+    bool is_running() const { return runs_ != told_; }
+
 public slots:
     /// Begins with a selection and forgets the one before, whether its paths have answered or not.
     void start(int command_index, const QStringList& paths);
@@ -41,5 +43,6 @@ private:
 
     const Look look_;
     std::shared_ptr<Run> run_; ///< shared with its thread
-    quint64 runs_ = 0;         ///< the newest run's number
+    quint64 told_ = 0;
+    quint64 runs_ = 0; ///< the newest run's number
 };

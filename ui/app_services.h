@@ -31,6 +31,9 @@ public:
     /// Where whoever reads the selection on another thread registers, so that it doesn't change meanwhile.
     virtual SelectionReaders& selection_readers() = 0;
 
+    /// Whether a selection has arrived that isn't taken yet.
+    virtual bool is_selection_coming() const = 0;
+
     /// The editor that shows the active list's current command; null when no editor takes it.
     virtual CommandControllerBase* current_editor() = 0;
 

@@ -91,8 +91,14 @@ std::u16string VellumarkThread::made_text()
         failure = "Unknown error";
     }
     if (!is_cancelled())
-        watcher_.status_report(to_utf16(failure));
+        tell_failure(to_utf16(failure));
     return {};
+}
+
+void VellumarkThread::tell_failure(const std::u16string& words)
+{
+    watcher_.status_report(words);
+    watcher_.failure_report(words, request_id_);
 }
 
 void VellumarkThread::deliver(std::u16string text)

@@ -18,9 +18,12 @@ public:
     /// The path of the item being worked on; from any of a run's threads, several at once.
     virtual void item_report(std::u16string_view) {}
 
-    /// What a run is doing; from its threads. When a run fails, the words of its exception come here, then an empty
-    /// text through `text_report`.
+    /// What a run is doing; from its threads.
     virtual void status_report(std::u16string_view) {}
+
+    /// The run of the request with this id has failed, in the words of its exception, which were a status report
+    /// before; an empty text comes next. Called on the worker thread.
+    virtual void failure_report(std::u16string_view /*words*/, std::uint32_t /*request_id*/) {}
 
     /// The worker has stopped reading the selection and is idle; a request may have made it busy again before this
     /// is told. Called on the worker thread, which then ends. Makes no request. Not told when the thread object goes.

@@ -3,10 +3,12 @@
 #include "box_answer.h"
 #include "store/last_command.h"
 #include "support/fake_clipboard.h"
+#include "ui/editor/builtin_commands_main_widget.h"
 #include "ui/editor/vellumark_controller.h"
 #include "ui/preview/wait_for_text_dlg.h"
 #include "ui/text.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QTest>
@@ -19,7 +21,7 @@ namespace {
 constexpr std::string_view sums = R"({"menuCommands":[{"commandType":"Vellumark","name":"Sums","separator":"",
     "fileParts":[{"item-type":"checksum","checksum-type":"crc32"}]},
     {"commandType":"Vellumark","name":"Names","separator":",","fileParts":[{"item-type":"name","name-type":"full-name"}]},
-    {"commandType":"Configure","name":"More"}],"commandsLibrary":[]})";
+    {"commandType":"CopyFilenameAndDelete","name":"More"}],"commandsLibrary":[]})";
 
 /// The window with the program's own editors and a clipboard in memory.
 class EditorTest : public AppTest
@@ -125,6 +127,74 @@ TEST_F(EditorTest, ComparesOneChecksumWithTheClipboard)
     EXPECT_TRUE(app->isVisible()) << "the user may try again";
 }
 
+TEST_F(EditorTest, CopiesWhatWasComparedThoughASelectionComes)
+{
+    clipboard.text = u"CBF43926";
+    open_with({path_of("a.txt", "123456789")});
+    EXPECT_TRUE(shows("cbf43926"));
+    QTimer::singleShot(0, app.get(), [&] {
+        ASSERT_TRUE(QApplication::activeModalWidget());
+        app->on_context_menu_selected(1, {path_of("b.txt", "other")});
+        EXPECT_TRUE(QTest::qWaitFor([&] { return preview().toPlainText() == "b.txt"; }, 60'000));
+        qobject_cast<QDialog*>(QApplication::activeModalWidget())->accept();
+    });
+    press("OK");
+    EXPECT_EQ(clipboard.text, u"cbf43926");
+    EXPECT_EQ(read_last_command()->name(), u"Sums");
+}
+
+TEST_F(EditorTest, ARunThatFailsIsToldAndNotCopied)
+{
+    open_with({endless_file()});
+    auto& generator = *app->current_editor()->findChild<PreviewGenerator*>();
+    generator.set_command(nullptr);
+    // As the worker would, for whichever request is the last; what makes a real run fail is a lack of memory.
+    VellumarkWatcher& watcher = generator;
+    for (std::uint32_t id = 0; id < 20; ++id) {
+        watcher.failure_report(u"Out of paper", id);
+        watcher.text_report({}, id);
+        QCoreApplication::processEvents();
+    }
+    EXPECT_EQ(generator.failure(), "Out of paper");
+    EXPECT_FALSE(preview().isVisible());
+    const BoxAnswer box({"OK"});
+    press("OK");
+    EXPECT_EQ(box.seen(), "Vellumark Configure|Failed to copy text to Windows clipboard\nOut of paper|OK\n");
+    EXPECT_TRUE(app->isVisible());
+    EXPECT_EQ(clipboard.calls, "");
+    app->menu_list().select(1);
+    EXPECT_TRUE(shows("endless"));
+    EXPECT_EQ(generator.failure(), "");
+}
+
+TEST_F(EditorTest, ASelectionEndsTheWaitForTheOldOne)
+{
+    for (const int row : {2, 1, -1}) {
+        open_with({endless_file()});
+        press("OK");
+        auto* box = app->findChild<WaitForTextDlg*>();
+        ASSERT_TRUE(box && box->isVisible());
+        app->on_context_menu_selected(row, {path_of("a.txt", "")});
+        EXPECT_FALSE(box->isVisible());
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !app->is_selection_coming(); }, 60'000));
+        EXPECT_TRUE(row == 2 || shows(row == 1 ? "a.txt" : "00000000"));
+        EXPECT_TRUE(app->isVisible());
+        EXPECT_EQ(clipboard.calls, "");
+    }
+}
+
+TEST_F(EditorTest, OkMeansTheSelectionThatIsComing)
+{
+    open_with({path_of("a.txt", "")});
+    app->menu_list().select(1);
+    EXPECT_TRUE(shows("a.txt"));
+    app->on_context_menu_selected(-1, {path_of("b.txt", "")});
+    press("OK");
+    EXPECT_TRUE(app->isVisible());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !app->isVisible(); }, 60'000));
+    EXPECT_EQ(clipboard.text, u"b.txt");
+}
+
 TEST_F(EditorTest, WaitsForTheTextThatIsStillMade)
 {
     open_with({endless_file()});
@@ -147,23 +217,23 @@ TEST_F(EditorTest, PagesFollowTheCommandAndTheSelection)
 {
     open_with({path_of("a.txt", "")});
     app->menu_list().select(2);
-    bool has_title = false;
-    for (const QLabel* label : app->findChildren<QLabel*>())
-        has_title |= label->isVisible() && label->text() == "<h2>File Action Command</h2>";
-    EXPECT_TRUE(has_title);
+    QStringList labels;
+    for (const QLabel* label : app->findChild<BuiltinCommandsMainWidget*>()->findChildren<QLabel*>())
+        labels += label->isVisible() ? label->text() : "hidden";
+    EXPECT_TRUE(labels.join('|').startsWith(
+        "<h2>File Action Command</h2>|hidden|<h3>Copy Filename and Delete</h3><p>Copies the name"));
+    EXPECT_TRUE(labels.back().contains("<i>Paste Filename</i> on the replacement file.</p><p><i>"));
     app->menu_list().select(1);
     EXPECT_TRUE(shows("a.txt"));
-    const auto separator = [&](std::u16string text) {
-        auto& command = dynamic_cast<VellumarkCommand&>(*app->menu_list().current_command());
-        command.set_start_text(std::move(text));
-        app->current_editor()->refresh();
-    };
-    separator(u"<");
+    auto& command = dynamic_cast<VellumarkCommand&>(*app->menu_list().current_command());
+    command.set_start_text(u"<");
+    app->current_editor()->refresh();
     EXPECT_TRUE(shows("<a.txt"));
     EXPECT_TRUE(button("Save"));
     app->current_editor()->begin_update();
+    command.set_start_text(u"[");
     app->current_editor()->end_update();
-    EXPECT_TRUE(shows("<a.txt"));
+    EXPECT_TRUE(shows("[a.txt"));
     app->on_context_menu_selected(-1, {path_of("b.txt", "")});
-    EXPECT_TRUE(shows("<b.txt"));
+    EXPECT_TRUE(shows("[b.txt"));
 }

@@ -45,7 +45,13 @@ public:
         statuses_.push_back(to_utf8(text));
     }
 
-    /// All texts, once there are so many.
+    void failure_report(std::u16string_view words, std::uint32_t id) override
+    {
+        const std::lock_guard lock(mutex_);
+        texts_.push_back(std::to_string(id) + " failed:" + to_utf8(words));
+    }
+
+    /// All texts and failures, once there are so many.
     std::vector<std::string> texts(std::size_t count)
     {
         std::unique_lock lock(mutex_);
@@ -190,7 +196,7 @@ TEST_F(Runner, AFailedRunIsToldAndAnswered)
     VellumarkThread thread(watcher_, items_);
     const VellumarkCommand command = hashing();
     thread.request(&command, 7);
-    EXPECT_EQ(watcher_.texts(1), Texts{"7:"});
+    EXPECT_EQ(watcher_.texts(2), (Texts{"7 failed:no luck", "7:"}));
     EXPECT_EQ(watcher_.statuses().back(), "no luck");
 }
 

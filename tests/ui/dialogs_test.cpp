@@ -1,9 +1,9 @@
 #include "engine/commands/vellumark_command.h"
 #include "engine/items/mv_items_set.h"
+#include "fake_app.h"
 #include "store/mv_command_builtin.h"
 #include "support/fake_clipboard.h"
 #include "support/temp_folder.h"
-#include "ui/app_services.h"
 #include "ui/dialogs/about_dlg.h"
 #include "ui/dialogs/change_command_name_dlg.h"
 #include "ui/dialogs/checksum_compare_dlg.h"
@@ -37,37 +37,9 @@ QString label_texts(const QWidget& widget)
 }
 
 /// Counts resets; nothing else may be asked of it.
-class ResetCounter final : public AppServices
-{
-public:
-    int resets = 0;
-
-    CommandsListController& menu_list() override { throw std::logic_error("menu_list"); }
-
-    CommandsListController& library_list() override { throw std::logic_error("library_list"); }
-
-    CommandsListController& active_list() override { throw std::logic_error("active_list"); }
-
-    void show_menu_list() override { throw std::logic_error("show_menu_list"); }
-
-    QUndoStack& undo_stack() override { throw std::logic_error("undo_stack"); }
-
-    std::shared_ptr<const MVItemsSet> selected_items() const override { throw std::logic_error("selected_items"); }
-
-    SelectionReaders& selection_readers() override { throw std::logic_error("selection_readers"); }
-
-    CommandControllerBase* current_editor() override { throw std::logic_error("current_editor"); }
-
-    void duplicate_command() override { throw std::logic_error("duplicate"); }
-
-    void reset_stored_commands() override { ++resets; }
-
-    void close_with_accept() override { throw std::logic_error("close"); }
-};
-
 TEST(NoCommandsWidget, SaysWhyAndOffersTheDefaults)
 {
-    ResetCounter app;
+    FakeApp app;
     NoCommandsWidget page(app);
     const auto* button = page.findChild<QPushButton*>();
     const auto state = [&](bool is_library, bool is_empty) {
@@ -77,7 +49,7 @@ TEST(NoCommandsWidget, SaysWhyAndOffersTheDefaults)
     EXPECT_EQ(state(true, true), "Commands library is empty");
     EXPECT_EQ(state(false, true), "Context menu commands list is empty [Reset to default commands list]");
     QTest::mouseClick(page.findChild<QPushButton*>(), Qt::LeftButton);
-    EXPECT_EQ(app.resets, 1);
+    EXPECT_EQ(app.calls, "reset ");
     EXPECT_EQ(state(true, false), "Select a command");
     EXPECT_EQ(state(false, false), "Select a command");
 }

@@ -13,11 +13,12 @@ QString translated(std::string_view text)
     return QCoreApplication::translate("BuiltinCommandInfo", std::string(text).c_str());
 }
 
+/// The descriptions are rich text themselves; names and rules are not.
 QString description_of(CommandType type)
 {
     const BuiltinCommandInfo& info = builtin_command_info(type);
-    QString html = "<h3>" + translated(info.name).toHtmlEscaped() + "</h3><p>" +
-                   translated(info.description).toHtmlEscaped() + "</p>";
+    QString html =
+        "<h3>" + translated(info.name).toHtmlEscaped() + "</h3><p>" + translated(info.description) + "</p>";
     if (const std::string_view rule = info.show_rule_text(); !rule.empty())
         html += "<p><i>" + translated(rule).toHtmlEscaped() + "</i></p>";
     return html;

@@ -37,6 +37,9 @@ public:
     /// Shows or hides the editing pane.
     virtual void set_expanded(bool /*expanded*/) {}
 
+    /// A selection has arrived and will be taken once its paths answer.
+    virtual void selection_coming() {}
+
     /// What OK does with the command. True when the application may close at once.
     virtual bool run_current_command() { return true; }
 

@@ -24,10 +24,20 @@ void keep_as_last_run(const VellumarkCommand& command)
 
 }
 
-bool CopyStep::run(const VellumarkCommand* command, const MVItemsSet& selection, const QString& text)
+// By value: a selection that comes during the comparison changes the caller's text and command.
+bool CopyStep::run(std::shared_ptr<const VellumarkCommand> command, const MVItemsSet& selection, QString text)
 {
     // Without a window the program would end between a comparison and what follows it.
     const QEventLoopLocker stay;
+    try {
+        return settle(command.get(), selection, units_of(text));
+    } catch (const std::exception& error) {
+        return refuse(QString::fromLocal8Bit(error.what()));
+    }
+}
+
+bool CopyStep::settle(const VellumarkCommand* command, const MVItemsSet& selection, std::u16string_view text)
+{
     if (command && is_declined(*command, selection, text))
         return true;
     if (!copy(text))
@@ -37,21 +47,31 @@ bool CopyStep::run(const VellumarkCommand* command, const MVItemsSet& selection,
     return true;
 }
 
-bool CopyStep::is_declined(const VellumarkCommand& command, const MVItemsSet& selection, const QString& text)
+bool CopyStep::is_declined(const VellumarkCommand& command, const MVItemsSet& selection, std::u16string_view text)
 {
-    const auto comparison = compare_with_clipboard(clipboard_, command, selection, from_qstring(text));
+    const auto comparison = compare_with_clipboard(clipboard_, command, selection, text);
     if (!comparison)
         return false;
     window_.hide();
     return ChecksumCompareDlg(*comparison, nullptr).exec() != QDialog::Accepted;
 }
 
-bool CopyStep::copy(const QString& text)
+bool CopyStep::copy(std::u16string_view text)
 {
     platform::OpenClipboard opened(clipboard_);
     if (!opened)
         return warn(tr("Failed to open Windows clipboard"));
-    return opened.replace_text(from_qstring(text)) || warn(tr("Failed to copy text to Windows clipboard"));
+    return opened.replace_text(text) || warn(failed_to_copy());
+}
+
+bool CopyStep::refuse(const QString& reason)
+{
+    return warn(failed_to_copy() + '\n' + reason);
+}
+
+QString CopyStep::failed_to_copy()
+{
+    return tr("Failed to copy text to Windows clipboard");
 }
 
 bool CopyStep::warn(const QString& sentence)

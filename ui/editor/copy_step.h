@@ -1,6 +1,10 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QString>
+
+#include <memory>
+#include <string_view>
 
 namespace platform {
 class Clipboard;
@@ -21,13 +25,19 @@ public:
     /// Copies the text and keeps the command as the last one run; null keeps none. A checksum that the user has
     /// copied before is compared with the text first. False when the text couldn't be copied, which the user has been
     /// told then; true also when the user leaves the comparison without OK.
-    bool run(const VellumarkCommand* command, const MVItemsSet& selection, const QString& text);
+    /// Events are processed meanwhile: what is copied is what came in.
+    bool run(std::shared_ptr<const VellumarkCommand> command, const MVItemsSet& selection, QString text);
+
+    /// Tells the user that nothing is copied, and why. Always false.
+    bool refuse(const QString& reason);
 
 private:
     platform::Clipboard& clipboard_;
     QWidget& window_;
 
-    bool is_declined(const VellumarkCommand& command, const MVItemsSet& selection, const QString& text);
-    bool copy(const QString& text);
+    bool settle(const VellumarkCommand* command, const MVItemsSet& selection, std::u16string_view text);
+    bool is_declined(const VellumarkCommand& command, const MVItemsSet& selection, std::u16string_view text);
+    bool copy(std::u16string_view text);
+    static QString failed_to_copy();
     bool warn(const QString& sentence);
 };

@@ -7,7 +7,7 @@
 
 VellumarkController::VellumarkController(AppServices& app, platform::Clipboard& clipboard, QObject* parent)
     : CommandControllerBase(app, parent), clipboard_(clipboard),
-      generator_(app.selected_items(), app.selection_readers())
+      generator_(app.selected_items(), app.selection_readers(), this)
 {
     connect(&generator_, &PreviewGenerator::text_updating, this, &VellumarkController::on_preview_text_updating);
     connect(&generator_, &PreviewGenerator::text_ready, this, &VellumarkController::on_preview_text_ready);
@@ -24,8 +24,10 @@ CommandMainWidgetBase* VellumarkController::create_main_widget(QWidget* parent)
 bool VellumarkController::set_current_command(const std::shared_ptr<MVCommandBase>& command)
 {
     current_command_ = std::dynamic_pointer_cast<VellumarkCommand>(command);
-    if (!current_command_)
+    if (!current_command_) {
+        stop_waiting();
         return false;
+    }
     show_command();
     emit current_command_changed();
     return true;
@@ -63,10 +65,29 @@ void VellumarkController::set_expanded(bool expanded)
 
 bool VellumarkController::run_current_command()
 {
-    if (!generator_.is_updating())
+    if (!is_waiting())
         return copy_text();
-    open_wait_dialog();
+    if (!wait_dialog_)
+        open_wait_dialog();
     return false;
+}
+
+void VellumarkController::selection_coming()
+{
+    // Whoever pressed OK meant the old selection.
+    stop_waiting();
+    page_->show_preview_updating();
+}
+
+bool VellumarkController::is_waiting() const
+{
+    return generator_.is_updating() || app().is_selection_coming();
+}
+
+void VellumarkController::stop_waiting()
+{
+    if (wait_dialog_)
+        wait_dialog_->reject();
 }
 
 void VellumarkController::open_wait_dialog()
@@ -81,8 +102,10 @@ void VellumarkController::open_wait_dialog()
 
 bool VellumarkController::copy_text()
 {
-    return CopyStep(clipboard_, *page_->window())
-        .run(current_command_.get(), *app().selected_items(), generator_.text());
+    CopyStep step(clipboard_, *page_->window());
+    if (!generator_.failure().isEmpty())
+        return step.refuse(generator_.failure());
+    return step.run(current_command_, *app().selected_items(), generator_.text());
 }
 
 void VellumarkController::update_after_curr_command_changed()
@@ -98,8 +121,11 @@ void VellumarkController::on_preview_text_updating()
 
 void VellumarkController::on_preview_text_ready(const QString& text)
 {
-    page_->set_preview_text(text);
-    if (!wait_dialog_)
+    if (generator_.failure().isEmpty())
+        page_->set_preview_text(text);
+    else
+        page_->show_preview_failure(generator_.failure());
+    if (!wait_dialog_ || is_waiting())
         return;
     wait_dialog_->close();
     if (copy_text())

@@ -32,6 +32,7 @@ public:
     /// application. True when the text has reached the clipboard, or the user has turned it down for the checksum
     /// that was there.
     bool run_current_command() override;
+    void selection_coming() override;
 
     const std::shared_ptr<VellumarkCommand>& current_command() const { return current_command_; }
 
@@ -52,6 +53,8 @@ private:
     QPointer<WaitForTextDlg> wait_dialog_;
 
     void show_command();
+    bool is_waiting() const;
+    void stop_waiting();
     void open_wait_dialog();
     bool copy_text();
 };

@@ -51,6 +51,11 @@ void VellumarkMainWidget::show_preview_updating()
     preview_->show_updating();
 }
 
+void VellumarkMainWidget::show_preview_failure(const QString& reason)
+{
+    preview_->show_failure(reason);
+}
+
 void VellumarkMainWidget::show_preview_progress(const QString& status, const QString& item)
 {
     preview_->show_progress(status, item);

@@ -25,6 +25,7 @@ public:
 
     void set_preview_text(const QString& text);
     void show_preview_updating();
+    void show_preview_failure(const QString& reason);
     void show_preview_progress(const QString& status, const QString& item);
 
     /// Shows or hides the editing pane and turns the header's triangle.

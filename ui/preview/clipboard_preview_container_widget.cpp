@@ -28,6 +28,11 @@ void ClipboardPreviewContainerWidget::show_updating()
     preview_->show_updating();
 }
 
+void ClipboardPreviewContainerWidget::show_failure(const QString& reason)
+{
+    preview_->show_failure(reason);
+}
+
 void ClipboardPreviewContainerWidget::show_progress(const QString& status, const QString& item)
 {
     preview_->show_progress(status, item);

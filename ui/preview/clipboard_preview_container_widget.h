@@ -19,6 +19,7 @@ public:
 public slots:
     void set_text(const QString& text);
     void show_updating();
+    void show_failure(const QString& reason);
     void show_progress(const QString& status, const QString& item);
 
 private:

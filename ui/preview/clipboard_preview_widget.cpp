@@ -12,13 +12,14 @@
 
 namespace {
 
-enum Page { TextPage, UpdatingPage };
+enum Page { TextPage, StatePage };
 
 }
 
 // The children are made without a parent, for they come in the order in which the layouts take them.
 ClipboardPreviewWidget::ClipboardPreviewWidget(QWidget* parent)
-    : QWidget(parent), text_edit_(new PreviewTextEdit), progress_(new ProgressLines), pages_(new QStackedLayout)
+    : QWidget(parent), text_edit_(new PreviewTextEdit), state_(new QLabel), progress_(new ProgressLines),
+      pages_(new QStackedLayout)
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
@@ -27,19 +28,18 @@ ClipboardPreviewWidget::ClipboardPreviewWidget(QWidget* parent)
     layout->addLayout(pages_);
     text_edit_->setAccessibleName(tr("Clipboard Preview"));
     pages_->addWidget(text_edit_);
-    pages_->addWidget(make_updating_page());
+    pages_->addWidget(make_state_page());
     update_background();
 }
 
-QWidget* ClipboardPreviewWidget::make_updating_page()
+QWidget* ClipboardPreviewWidget::make_state_page()
 {
     auto* page = new QWidget(this);
-    auto* label = new QLabel(tr("Updating..."), page);
-    QFont italic = label->font();
+    QFont italic = state_->font();
     italic.setItalic(true);
-    label->setFont(italic);
+    state_->setFont(italic);
     auto* layout = new QVBoxLayout(page);
-    layout->addWidget(label);
+    layout->addWidget(state_);
     layout->addWidget(progress_);
     layout->addStretch();
     return page;
@@ -53,8 +53,20 @@ void ClipboardPreviewWidget::set_text(const QString& text)
 
 void ClipboardPreviewWidget::show_updating()
 {
+    show_state(tr("Updating..."));
     progress_->show_progress({}, {});
-    pages_->setCurrentIndex(UpdatingPage);
+}
+
+void ClipboardPreviewWidget::show_failure(const QString& reason)
+{
+    show_state(tr("The text could not be generated."));
+    progress_->show_progress(reason, {});
+}
+
+void ClipboardPreviewWidget::show_state(const QString& state)
+{
+    state_->setText(state);
+    pages_->setCurrentIndex(StatePage);
     // Nobody sees the rest of the old text come, and its memory can serve the new one.
     text_edit_->show_text({});
 }

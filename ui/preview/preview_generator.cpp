@@ -2,8 +2,7 @@
 
 #include "ui/text.h"
 
-#include <QDebug>
-
+#include <new>
 #include <system_error>
 #include <utility>
 
@@ -68,6 +67,7 @@ void PreviewGenerator::start_run()
 {
     ++request_counter_;
     text_.clear();
+    failure_.clear();
     updating_ = true;
     emit text_updating();
     request_text();
@@ -85,8 +85,7 @@ void PreviewGenerator::request_text()
         progress_.restart([this] { thread_->request(command_.get(), request_counter_); });
         progress_timer_.start();
     } catch (const std::system_error& error) {
-        qDebug() << "No thread for the preview:" << error.what();
-        finish({});
+        finish({}, QString::fromLocal8Bit(error.what()));
     }
 }
 
@@ -99,12 +98,24 @@ void PreviewGenerator::cancel_run()
 
 void PreviewGenerator::text_report(std::u16string text, std::uint32_t request_id)
 {
-    Delivery delivery{to_qstring(text), request_id};
+    Delivery delivery = std::exchange(failed_, {});
+    if (delivery.request_id != request_id)
+        delivery = {.text = {}, .failure = {}, .request_id = request_id};
+    try {
+        delivery.text = to_qstring(text);
+    } catch (const std::bad_alloc& error) {
+        delivery.failure = QString::fromLatin1(error.what());
+    }
     {
         const std::lock_guard lock(delivery_mutex_);
         delivery_ = std::move(delivery);
     }
     emit text_delivered(QPrivateSignal());
+}
+
+void PreviewGenerator::failure_report(std::u16string_view words, std::uint32_t request_id)
+{
+    failed_ = {.text = {}, .failure = to_qstring(words), .request_id = request_id};
 }
 
 void PreviewGenerator::take_delivery()
@@ -115,14 +126,15 @@ void PreviewGenerator::take_delivery()
         delivery = std::exchange(delivery_, std::nullopt);
     }
     if (delivery && delivery->request_id == request_counter_)
-        finish(delivery->text);
+        finish(delivery->text, delivery->failure);
 }
 
-void PreviewGenerator::finish(const QString& text)
+void PreviewGenerator::finish(const QString& text, const QString& failure)
 {
     updating_ = false;
     progress_timer_.stop();
     text_ = text;
+    failure_ = failure;
     emit text_ready(text);
 }
 

@@ -33,8 +33,11 @@ public:
     /// Whether the command's text is still to come.
     bool is_updating() const { return updating_; }
 
-    /// The finished text; empty while it is made.
+    /// The finished text; empty while it is made, and when that failed.
     const QString& text() const { return text_; }
+
+    /// Why there is no text; empty where nothing failed.
+    const QString& failure() const { return failure_; }
 
     /// Several changes follow; whoever ends the batch sets the command then.
     void begin_batch() { defer_updates_ = true; }
@@ -54,7 +57,7 @@ public:
 signals:
     /// The text is out of date; another one is being made.
     void text_updating();
-    /// The text of the command that was set last.
+    /// The text of the command that was set last, empty with a `failure`.
     void text_ready(const QString& text);
     /// What the run is doing and the path that it is at, ten times a second at most; either may be empty.
     void progress_changed(const QString& status, const QString& item);
@@ -64,27 +67,28 @@ signals:
 
 private:
     struct Delivery {
-        QString text;
-        std::uint32_t request_id;
+        QString text, failure;
+        std::uint32_t request_id = 0;
     };
 
     void text_report(std::u16string text, std::uint32_t request_id) override;
     void item_report(std::u16string_view text) override;
     void status_report(std::u16string_view text) override;
+    void failure_report(std::u16string_view words, std::uint32_t request_id) override;
     void worker_idle() override;
 
     void start_run();
     void request_text();
     void cancel_run();
     void take_delivery();
-    void finish(const QString& text);
+    void finish(const QString& text, const QString& failure = {});
     void pass_progress_on();
     void pass_idle_on();
 
     const std::shared_ptr<const MVItemsSet> items_;
     SelectionReaders& readers_;
     std::shared_ptr<const VellumarkCommand> command_;
-    QString text_;
+    QString text_, failure_;
     bool defer_updates_ = false;
     bool updating_ = false;
     bool suspended_ = false;
@@ -93,5 +97,6 @@ private:
     QTimer progress_timer_;
     std::mutex delivery_mutex_;
     std::optional<Delivery> delivery_;        ///< by the worker, not yet taken
+    Delivery failed_;                         ///< the worker's: what it has to tell with the text to come
     std::unique_ptr<VellumarkThread> thread_; ///< last, for its worker uses the others until it is joined
 };
