@@ -76,7 +76,7 @@ class Copy(ClipboardTest):
             with self.subTest(text[:20]):
                 self.copy(text)
                 expected = text.encode("utf-16-le", "surrogatepass").decode("utf-16-le", "replace").encode()
-                for target in ("UTF8_STRING", "text/plain"):
+                for target in ("UTF8_STRING", "text/plain", "text/plain;charset=utf-8"):
                     self.assertEqual(desktop.clipboard(target), expected)
         self.wait_for_keepers(1)
 
