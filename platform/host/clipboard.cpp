@@ -74,8 +74,9 @@ public:
         const Descriptor content = in_memory(text);
         if (!content)
             return false;
-        const Deadline deadline = keeper_deadline(content.get());
         return std::ranges::any_of(keepers(), [&](const ProgramCall& keeper) {
+            // Its own: one that hangs must leave time for the next.
+            const Deadline deadline = keeper_deadline(content.get());
             lseek(content.get(), 0, SEEK_SET);
             return HelperProgram(keeper, {content.get(), -1}).succeeds(deadline);
         });
