@@ -8,6 +8,7 @@
 int main(int argc, char* argv[])
 {
     Program::prepare();
+    SystemClipboard::prepare();
     QApplication application(argc, argv);
     const Program program(application);
     SystemClipboard clipboard;
