@@ -11,6 +11,7 @@
 int main(int argc, char* argv[])
 {
     Program::prepare();
+    SystemClipboard::prepare();
     QApplication application(argc, argv);
     const Program program(application);
     SystemClipboard clipboard;

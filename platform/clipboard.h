@@ -67,8 +67,16 @@ private:
     const bool is_open_;
 };
 
-/// This desktop's clipboard. Texts are handed to a program that keeps them; `read_text` asks another program, so it
-/// gets nothing from the caller's own process: a toolkit that owns the clipboard there has to be asked instead.
-std::unique_ptr<Clipboard> make_clipboard();
+/// What shows a program's windows. Wayland's programs see what an X11 program has copied only if that had the focus.
+enum class WindowSystem { x11, wayland };
+
+/// The clipboard of this desktop as a program with windows of that system has it. Texts are handed to a program that
+/// keeps them; `read_text` asks another program, so it gets nothing from the caller's own process: a toolkit that
+/// owns the clipboard there has to be asked instead.
+std::unique_ptr<Clipboard> make_clipboard(WindowSystem system);
+
+/// Whether a desktop that shows windows of both systems lets only X11's copy texts to stay. Takes milliseconds, at
+/// the most seconds.
+bool needs_x11_windows();
 
 }

@@ -15,7 +15,8 @@ declare -Ar groups=(
         libexif-dev libtag1-dev libmediainfo-dev libqpdf-dev libzip-dev
         libboost-json1.81-dev libboost-filesystem1.81-dev libboost-regex1.81-dev libboost-program-options1.81-dev"
     [test]="libgtest-dev python3 strace
-        xvfb openbox xdotool xclip x11-utils imagemagick dbus-daemon at-spi2-core python3-pyatspi"
+        xvfb openbox xdotool xclip x11-utils imagemagick dbus-daemon at-spi2-core python3-pyatspi
+        sway wl-clipboard qt6-wayland"
     [lint]="git python3 clang-format clang-tidy-16 shellcheck"
     [bench]="libbenchmark-dev python3 openssl xxhash rhash findutils libimage-exiftool-perl"
     [fuzz]="clang-16 libclang-rt-16-dev"

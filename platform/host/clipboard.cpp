@@ -31,6 +31,12 @@ bool is_set(const char* variable)
     return value && *value != '\0';
 }
 
+/// A Wayland program without a window can't take the clipboard by itself; this one knows the ways around.
+ProgramCall wayland_program(std::vector<std::string> options)
+{
+    return {"wl-copy", std::move(options)};
+}
+
 ProgramCall own_program(std::string option)
 {
     return {to_host_path(program_folder() + u"\\vellumark-clipboard"), {std::move(option)}};
@@ -38,13 +44,14 @@ ProgramCall own_program(std::string option)
 
 /// The programs that can keep a text, the best first: each takes it from its standard input and ends with status 0
 /// when a process that it leaves behind owns the clipboard.
-std::vector<ProgramCall> keepers()
+std::vector<ProgramCall> keepers(WindowSystem system)
 {
     std::vector<ProgramCall> calls;
-    // A Wayland program without a window can't take the clipboard by itself; this one knows the ways around.
     if (is_set("WAYLAND_DISPLAY"))
-        calls.push_back({"wl-copy", {"--type", "text/plain;charset=utf-8"}});
-    calls.push_back(own_program("--keep"));
+        calls.push_back(wayland_program({"--type", "text/plain;charset=utf-8"}));
+    // It would succeed beside a Wayland window too, and nobody there would see the text.
+    if (system == WindowSystem::x11)
+        calls.push_back(own_program("--keep"));
     return calls;
 }
 
@@ -65,6 +72,8 @@ Deadline keeper_deadline(int content)
 class HostClipboard final : public Clipboard
 {
 public:
+    explicit HostClipboard(WindowSystem system) : system_(system) {}
+
     bool open() override { return is_set("DISPLAY") || is_set("WAYLAND_DISPLAY"); }
 
     bool empty() override { return true; }
@@ -74,8 +83,9 @@ public:
         const Descriptor content = in_memory(text);
         if (!content)
             return false;
-        const Deadline deadline = keeper_deadline(content.get());
-        return std::ranges::any_of(keepers(), [&](const ProgramCall& keeper) {
+        return std::ranges::any_of(keepers(system_), [&](const ProgramCall& keeper) {
+            // Its own: one that hangs must leave time for the next.
+            const Deadline deadline = keeper_deadline(content.get());
             lseek(content.get(), 0, SEEK_SET);
             return HelperProgram(keeper, {content.get(), -1}).succeeds(deadline);
         });
@@ -96,13 +106,22 @@ public:
     }
 
     void close() override {}
+
+private:
+    const WindowSystem system_;
 };
 
 }
 
-std::unique_ptr<Clipboard> make_clipboard()
+std::unique_ptr<Clipboard> make_clipboard(WindowSystem system)
 {
-    return std::make_unique<HostClipboard>();
+    return std::make_unique<HostClipboard>(system);
+}
+
+bool needs_x11_windows()
+{
+    return is_set("WAYLAND_DISPLAY") && is_set("DISPLAY") &&
+           !HelperProgram(wayland_program({"--version"}), {}).succeeds(std::chrono::steady_clock::now() + 2s);
 }
 
 }

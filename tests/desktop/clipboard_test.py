@@ -40,24 +40,29 @@ class ClipboardTest(unittest.TestCase):
         for name in ("clipboard_client", KEEPER):
             shutil.copy(f"{PROGRAMS}/{name}", self.folder)
 
-    def client(self, work, given=b"", **variables):
-        """Exit status and standard output of a program that does one thing and ends."""
-        command = [self.folder + "/clipboard_client", work]
-        environment = os.environ | variables
-        done = subprocess.run(command, input=given, stdout=subprocess.PIPE, env=environment, timeout=HANG, check=False)
+    def client(self, work, given=b"", wrapper=(), **variables):
+        """Exit status and standard output of a program that does one thing and ends. A limit that the wrapper sets
+        lets writing fail and sends no signal."""
+        done = subprocess.run(
+            [*wrapper, self.folder + "/clipboard_client", work],
+            input=given, stdout=subprocess.PIPE, env=os.environ | variables, timeout=HANG, check=False,
+            restore_signals=False,
+        )
         return done.returncode, done.stdout
 
-    def copy(self, text):
+    def copy(self, text, **variables):
         """The milliseconds that it took."""
-        status, out = self.client("set", utf16(text))
+        status, out = self.client("set", utf16(text), **variables)
         self.assertEqual(status, 0, out)
         return int(out)
 
-    def replace_keeper(self, script):
-        os.remove(f"{self.folder}/{KEEPER}")
-        with open(f"{self.folder}/{KEEPER}", "w", encoding="utf-8") as file:
+    def replace_program(self, name, script):
+        path = f"{self.folder}/{name}"
+        if os.path.exists(path):
+            os.remove(path)
+        with open(path, "w", encoding="utf-8") as file:
             file.write("#!/bin/sh\n" + script)
-        os.chmod(f"{self.folder}/{KEEPER}", 0o755)
+        os.chmod(path, 0o755)
 
     def processes(self, word=KEEPER):
         """Those that run from the test's folder, with the word in their command lines."""
@@ -76,7 +81,7 @@ class Copy(ClipboardTest):
             with self.subTest(text[:20]):
                 self.copy(text)
                 expected = text.encode("utf-16-le", "surrogatepass").decode("utf-16-le", "replace").encode()
-                for target in ("UTF8_STRING", "text/plain"):
+                for target in ("UTF8_STRING", "text/plain", "text/plain;charset=utf-8"):
                     self.assertEqual(desktop.clipboard(target), expected)
         self.wait_for_keepers(1)
 
@@ -131,7 +136,7 @@ class Copy(ClipboardTest):
         for script in ("exit 1\n", "kill -9 $$\n", "exec 2>&-; sleep 1000 & sleep 1000\n", None):
             with self.subTest(script):
                 if script:
-                    self.replace_keeper(script)
+                    self.replace_program(KEEPER, script)
                 else:
                     os.remove(f"{self.folder}/{KEEPER}")
                 start = time.monotonic()
@@ -141,6 +146,20 @@ class Copy(ClipboardTest):
         self.assertEqual(self.client("set", utf16("lost"), **wayland), (1, b"not set\n"))
         self.assertEqual(desktop.clipboard(), b"other")
         self.assertIsNone(other.poll())
+
+    def test_next_keeper_takes_what_the_first_does_not(self):
+        path = {"PATH": self.folder + ":" + os.environ["PATH"], "WAYLAND_DISPLAY": "wayland-9"}
+        for script in ("cat > /dev/null; exit 1\n", "cat > /dev/null; sleep 1000\n"):
+            with self.subTest(script):
+                self.replace_program("wl-copy", script)
+                self.copy(script, **path)
+                self.assertEqual(desktop.clipboard(), script.encode())
+                self.assertEqual(self.processes("wl-copy"), [])
+
+    def test_text_that_does_not_fit_into_memory(self):
+        desktop.copy(b"other")
+        self.assertEqual(self.client("set", utf16("x" * 5000), ["prlimit", "--fsize=4096"]), (1, b"not set\n"))
+        self.assertEqual(desktop.clipboard(), b"other")
 
     def test_no_display(self):
         none = {"DISPLAY": "", "QT_QPA_PLATFORM": "offscreen"}
@@ -156,6 +175,13 @@ class Read(ClipboardTest):
         self.copy("kept")
         self.assertEqual(self.client("read"), (0, utf16("kept")))
         self.assertEqual(self.client("own"), (0, utf16("own")))
+
+    def test_reader_that_fails(self):
+        for script in ("echo half a text; exit 1\n", "echo half a text; kill -9 $$\n"):
+            self.replace_program(KEEPER, script)
+            self.assertEqual(self.client("read"), (1, b""))
+        os.remove(f"{self.folder}/{KEEPER}")
+        self.assertEqual(self.client("read"), (1, b""))
 
     def test_owner_that_does_not_answer(self):
         owner = desktop.copy(b"never")

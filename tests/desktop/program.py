@@ -81,16 +81,24 @@ class Program:
 
     def start(self, with_box=False, **environment):
         """`with_box`: a box comes with the window and has the focus."""
+        self._start_process(environment)
+        self.attach(self.process.pid, with_box)
+
+    def start_unseen(self, **environment):
+        """Where the window is none of this display's: only for what a screen reader can see and do."""
+        self._start_process(environment)
+        self.find_root(self.process.pid)
+
+    def _start_process(self, environment):
         self.process = self.desktop.start(
             self.folder + "/VellumarkConfigure", env=self.environment | environment, stderr=subprocess.PIPE
         )
-        self.attach(self.process.pid, with_box)
 
     def attach(self, process=None, with_box=False):
         """Finds the window of the process, or of whichever runs, and brings it to the front unless a box is there."""
         windows = wait_until(lambda: self._windows_of(process, 2 if with_box else 1), "the window")
         self.window = max(windows, key=lambda window: self.desktop.geometry(window)[3])
-        self.root = wait_until(self._find_root, "the accessible window")
+        self.find_root(self.window_process(self.window))
         if not with_box:
             self.desktop.focus(self.window)
 
@@ -101,12 +109,16 @@ class Program:
         windows = [w for w in self.desktop.windows(TITLE) if process in (None, self.window_process(w))]
         return windows if len(windows) >= count else None
 
-    def _find_root(self):
-        process = self.window_process(self.window)
-        for application in pyatspi.Registry.getDesktop(0):
-            if application and application.get_process_id() == process and application.childCount:
-                return application
-        return None
+    def find_root(self, process):
+        """The process as a screen reader sees it, once it has a window."""
+
+        def search():
+            for application in pyatspi.Registry.getDesktop(0):
+                if application and application.get_process_id() == process and application.childCount:
+                    return application
+            return None
+
+        self.root = wait_until(search, "the accessible window")
 
     def select(self, *arguments):
         """What a file manager calls. The tool's exit status and what it complains of."""

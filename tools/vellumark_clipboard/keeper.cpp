@@ -34,7 +34,8 @@ std::optional<QByteArray> standard_input()
 std::unique_ptr<QMimeData> as_text(const QByteArray& utf8)
 {
     auto data = std::make_unique<QMimeData>();
-    data->setData(QStringLiteral("text/plain"), utf8);
+    for (const auto& type : {QStringLiteral("text/plain"), QStringLiteral("text/plain;charset=utf-8")})
+        data->setData(type, utf8);
     return data;
 }
 

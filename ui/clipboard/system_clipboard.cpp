@@ -8,16 +8,30 @@
 
 namespace {
 
+constexpr char platform_choice[] = "QT_QPA_PLATFORM";
+
+platform::WindowSystem window_system()
+{
+    const bool is_wayland = QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
+    return is_wayland ? platform::WindowSystem::wayland : platform::WindowSystem::x11;
+}
+
 /// What this process has copied it has to be asked for here, as it answers no one else while it waits. On Wayland
 /// only a program whose window has the focus gets an answer.
 bool is_ours_to_read(const QClipboard& clipboard)
 {
-    return clipboard.ownsClipboard() || QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
+    return clipboard.ownsClipboard() || window_system() == platform::WindowSystem::wayland;
 }
 
 }
 
-SystemClipboard::SystemClipboard() : clipboard_(platform::make_clipboard()) {}
+void SystemClipboard::prepare()
+{
+    if (qEnvironmentVariableIsEmpty(platform_choice) && platform::needs_x11_windows())
+        qputenv(platform_choice, "xcb;wayland");
+}
+
+SystemClipboard::SystemClipboard() : clipboard_(platform::make_clipboard(window_system())) {}
 
 bool SystemClipboard::open()
 {
