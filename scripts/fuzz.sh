@@ -17,8 +17,9 @@ cd -- "$root"
 ctest --preset fuzz
 
 readonly found=$root/build/fuzz/finds grown=$root/build/fuzz/corpus
-# The address sanitizer keeps freed memory for a while, which counts as used.
-export ASAN_OPTIONS=${ASAN_OPTIONS:-quarantine_size_mb=32}
+# The address sanitizer keeps freed memory for a while, and for good where each allocation came from, which libraries
+# without frame pointers tell differently every time. Both count as used.
+export ASAN_OPTIONS=${ASAN_OPTIONS:-quarantine_size_mb=32:malloc_context_size=2}
 
 # fuzz NAME: what is new goes to a corpus of the build folder, which the next run starts from.
 fuzz() {

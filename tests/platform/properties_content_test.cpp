@@ -164,4 +164,31 @@ TEST(PropertyContent, OfPictures)
             << row.name;
 }
 
+/// Of one packet.
+std::string ogg_page(const std::string& packet, unsigned index)
+{
+    return "OggS\0"s + (index == 0 ? '\2' : '\0') + number(0, 8) + number(1, 4) + number(index, 4) + number(0, 4) +
+           '\1' + number(packet.size(), 1) + packet;
+}
+
+/// 8000 Hz, one channel, 16 bits, one tag.
+std::string flac_in_ogg(const std::string& tag)
+{
+    const std::string stream = number(0, 10) + "\1\xF4\0\xF0"s + std::string(20, '\0');
+    const std::string tags = number(0, 4) + number(1, 4) + number(tag.size(), 4) + tag;
+    const std::string first = "\177FLAC\1\0\0\1fLaC\0"s, last = "\204"s;
+    return ogg_page(first + number(stream.size(), 3, true) + stream, 0) +
+           ogg_page(last + number(tags.size(), 3, true) + tags, 1);
+}
+
+TEST(PropertyContent, OfFlacInOgg)
+{
+    const TempFolder folder;
+    for (const char* const name : {"calm.ogg", "calm.oga"}) {
+        const auto path = folder.write(name, flac_in_ogg("MOOD=Calm"));
+        EXPECT_EQ(shown(path, u"Music.Mood"), WITH_TAGLIB ? "Calm" : "-") << name;
+        EXPECT_TRUE(!WITH_TAGLIB || shown(path, u"Audio.Format") == "FLAC") << name;
+    }
+}
+
 }

@@ -152,6 +152,7 @@ class Start(SelectTest):
     def test_after_a_crash(self):
         self.install_application()
         self.check_selected("--index", "1", ".")
+        self.selections(1)
         os.kill(self.started()[0], signal.SIGKILL)
         self.assertTrue(os.path.exists(self.runtime + PIPE))
         self.check_selected("--index", "2", ".")

@@ -9,7 +9,9 @@ namespace {
 
 bool needs_escape(char32_t code)
 {
-    return code < 0x20 || platform::is_surrogate(code);
+    // Qt's reader drops it at a string's start.
+    constexpr char32_t byte_order_mark = 0xFEFF;
+    return code < 0x20 || code == byte_order_mark || platform::is_surrogate(code);
 }
 
 std::string key(std::string_view name)

@@ -43,12 +43,13 @@ struct TypeRow {
 
 using namespace TagLib;
 
-// Asked in this order. What an MP3 file begins with is found in many others too, so it comes last.
+// Asked in this order. FLAC in Ogg has the mark of plain FLAC too, so it comes first; what an MP3 file begins with is
+// found in many others, so it comes last.
 const TypeRow types[] = {
+    {Ogg::FLAC::File::isSupported, ".oga ", plainly<Ogg::FLAC::File>},
     {FLAC::File::isSupported, ".flac ", with_frames<FLAC::File>},
     {Ogg::Vorbis::File::isSupported, ".ogg .oga ", plainly<Ogg::Vorbis::File>},
     {Ogg::Opus::File::isSupported, ".opus ", plainly<Ogg::Opus::File>},
-    {Ogg::FLAC::File::isSupported, "", plainly<Ogg::FLAC::File>},
     {Ogg::Speex::File::isSupported, ".spx ", plainly<Ogg::Speex::File>},
     {MP4::File::isSupported, ".m4a .m4b .m4p .mp4 .m4v ", plainly<MP4::File>},
     {ASF::File::isSupported, ".wma .wmv .asf ", plainly<ASF::File>},
