@@ -30,6 +30,14 @@ Descriptor end_of_process(pid_t id)
     return Descriptor(static_cast<int>(syscall(SYS_pidfd_open, id, 0)));
 }
 
+/// A launcher may hand down that ends of children are ignored; then nobody could learn how they ended.
+void keep_ends_of_children()
+{
+    struct sigaction action {};
+    if (sigaction(SIGCHLD, nullptr, &action) == 0 && action.sa_handler == SIG_IGN)
+        std::signal(SIGCHLD, SIG_DFL);
+}
+
 void reap(pid_t id)
 {
     while (waitpid(id, nullptr, 0) < 0 && errno == EINTR) {
@@ -52,6 +60,7 @@ bool wait_readable(int descriptor, Deadline deadline)
 
 HelperProgram::HelperProgram(const ProgramCall& call, ProgramStreams streams)
 {
+    keep_ends_of_children();
     std::error_code error;
     id_ = spawn(call, streams, error);
 }

@@ -90,6 +90,11 @@ class Copy(ClipboardTest):
         print("100 MB copied in", self.copy(text), "ms")
         self.assertTrue(desktop.clipboard() == text.encode())
 
+    def test_launcher_that_ignores_ends_of_children(self):
+        launcher = ["env", "--ignore-signal=CHLD"]
+        self.assertEqual(self.client("set", utf16("kept"), launcher)[0], 0)
+        self.assertEqual(self.client("read", b"", launcher), (0, utf16("kept")))
+
     def test_keeper_ends_when_another_program_copies(self):
         self.copy("first")
         self.copy("second")
