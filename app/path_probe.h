@@ -13,12 +13,15 @@ class PathProbe final : public QObject
     Q_OBJECT
 
 public:
-    /// Looks at one path; called on any thread, may take for ever.
+    /// Looks at one path; called on any thread, may take for ever. A std::exception counts as an answer.
     using Look = std::function<void(const QString& path)>;
 
     explicit PathProbe(Look look = read_attributes, QObject* parent = nullptr);
     /// Waits for nobody.
     ~PathProbe() override;
+
+    /// Whether a selection was given whose paths have not answered yet.
+    bool is_running() const { return run_ != nullptr; }
 
     static void read_attributes(const QString& path);
 
@@ -40,6 +43,6 @@ private:
     void forget();
 
     const Look look_;
-    std::shared_ptr<Run> run_; ///< shared with its thread
+    std::shared_ptr<Run> run_; ///< shared with its thread; null once its answer is told
     quint64 runs_ = 0;         ///< the newest run's number
 };
