@@ -21,9 +21,23 @@
 #include <QPainter>
 #include <QUrl>
 
+#include <exception>
+
 namespace {
 
 constexpr int menu_tab = 0, library_tab = 1;
+
+/// A step of taking a selection: nothing that fails there may end the program.
+void log_failures(const auto& step)
+{
+    try {
+        step();
+    } catch (const std::exception& error) {
+        qDebug() << "Exception in on_context_menu_selected:" << error.what();
+    } catch (...) {
+        qDebug() << "Unknown exception in on_context_menu_selected";
+    }
+}
 
 }
 
@@ -118,12 +132,12 @@ void MirvantaApp::on_context_menu_selected(int command_index, const QStringList&
     setWindowState(windowState() & ~Qt::WindowMinimized);
     raise();
     activateWindow();
-    source_.take(command_index, paths);
+    log_failures([&] { source_.take(command_index, paths); });
 }
 
 void MirvantaApp::take_selection(int command_index, const QStringList& paths)
 {
-    try {
+    log_failures([&] {
         enter_selection(*selected_items_, paths);
         if (!selected_items_->items().empty())
             exemplar_.set_item(selected_items_->items().front());
@@ -131,14 +145,13 @@ void MirvantaApp::take_selection(int command_index, const QStringList& paths)
             show_list(menu_tab);
             menu_list_.select(command_index);
         }
-        editors_.refresh();
+    });
+    // However much of it was taken: texts were given up for it, and whoever waits for new ones waits for this.
+    log_failures([&] { editors_.refresh(); });
+    log_failures([&] {
         menu_list_.model().refresh_rows();
         library_list_.model().refresh_rows();
-    } catch (const std::exception& error) {
-        qDebug() << "Exception in on_context_menu_selected:" << error.what();
-    } catch (...) {
-        qDebug() << "Unknown exception in on_context_menu_selected";
-    }
+    });
 }
 
 void MirvantaApp::current_command_index_changed()

@@ -7,6 +7,7 @@
 
 #include <QSettings>
 
+#include <functional>
 #include <string>
 
 /// A page that keeps one setting.
@@ -36,6 +37,8 @@ public:
 
     bool set_current_command(const std::shared_ptr<MVCommandBase>& command) override
     {
+        if (before_offer)
+            before_offer();
         current = std::dynamic_pointer_cast<VellumarkCommand>(command);
         return current != nullptr;
     }
@@ -60,4 +63,5 @@ public:
     std::shared_ptr<VellumarkCommand> current;
     std::string calls;
     bool may_close = true;
+    std::function<void()> before_offer; ///< what it throws, the offer of a command throws
 };
