@@ -132,7 +132,11 @@ void MirvantaApp::on_context_menu_selected(int command_index, const QStringList&
     setWindowState(windowState() & ~Qt::WindowMinimized);
     raise();
     activateWindow();
-    log_failures([&] { source_.take(command_index, paths); });
+    log_failures([&] {
+        source_.take(command_index, paths);
+        if (editors_.current())
+            editors_.current()->selection_coming();
+    });
 }
 
 void MirvantaApp::take_selection(int command_index, const QStringList& paths)

@@ -40,6 +40,8 @@ public:
 
     SelectionReaders& selection_readers() override { return source_.readers(); }
 
+    bool is_selection_coming() const override { return source_.is_selection_coming(); }
+
     CommandControllerBase* current_editor() override { return editors_.current(); }
 
     void show_menu_list() override;
@@ -57,9 +59,8 @@ public slots:
     /// Closes the dialog. Nothing is saved, nothing is asked.
     void on_cancel();
     void on_help();
-    /// A selection has come: shows the window, and takes the selection once its paths answer and nobody reads the old
-    /// one.
-    /// `command_index` is a row of the menu list, negative for none.
+    /// A selection has come: shows the window, tells the current editor, and takes the selection once its paths
+    /// answer and nobody reads the old one. `command_index` is a row of the menu list, negative for none.
     void on_context_menu_selected(int command_index, const QStringList& paths);
     /// The current command's fields changed.
     void current_command_index_changed();

@@ -22,6 +22,9 @@ public:
     /// A selection has arrived: `ready` follows with it, or with the next one in its place.
     void take(int command_index, const QStringList& paths);
 
+    /// Whether a selection has been taken that is still on its way to `ready`. False within that signal.
+    bool is_selection_coming() const { return probe_.is_running() || intake_.is_selection_waiting(); }
+
     SelectionReaders& readers() { return intake_; }
 
 signals:

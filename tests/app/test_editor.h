@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/app_services.h"
 #include "ui/editor/command_controller_base.h"
 #include "ui/editor/command_main_widget_base.h"
 
@@ -43,7 +44,9 @@ public:
         return current != nullptr;
     }
 
-    void refresh() override { calls += "refresh "; }
+    void refresh() override { calls += app().is_selection_coming() ? "early-refresh " : "refresh "; }
+
+    void selection_coming() override { calls += app().is_selection_coming() ? "coming " : "late "; }
 
     void focus_name() override { calls += "focus "; }
 

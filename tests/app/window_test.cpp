@@ -50,6 +50,7 @@ TEST_F(AppTest, TakesSelections)
             paths += to_qstring(folder.path(name));
         app->on_context_menu_selected(c.index, paths);
         EXPECT_TRUE(QTest::qWaitFor([&] { return editor->calls.ends_with("refresh "); }, 60'000));
+        EXPECT_EQ(editor->calls, "coming refresh ");
         std::string expected(c.expected);
         if (!expected.starts_with("library"))
             expected.insert(expected.find("[L]") + 1, "*");
@@ -78,7 +79,7 @@ TEST_F(AppTest, RefreshesAfterASelectionThatCantBeTakenWhole)
         editor->before_offer = c.fail;
         const DebugLog log;
         app->on_context_menu_selected(0, {to_qstring(folder.path("a.txt"))});
-        EXPECT_TRUE(QTest::qWaitFor([&] { return editor->calls == "refresh "; }, 60'000)) << editor->calls;
+        EXPECT_TRUE(QTest::qWaitFor([&] { return editor->calls == "coming refresh "; }, 60'000)) << editor->calls;
         EXPECT_TRUE(DebugLog::text().ends_with(c.told)) << DebugLog::text();
         EXPECT_EQ(app->selected_items()->items().size(), 1U);
         editor->before_offer = nullptr;
@@ -121,10 +122,12 @@ TEST_F(AppTest, LeavesTheSelectionAloneWhileItIsRead)
     EXPECT_TRUE(QTest::qWaitFor(is_waiting, 60'000));
     app->on_context_menu_selected(2, {to_qstring(folder.path("a.txt")), to_qstring(folder.path("b.txt"))});
     EXPECT_TRUE(run.is_reading());
+    EXPECT_TRUE(app->is_selection_coming());
     EXPECT_EQ(state(), "menu[*A, B, C] library[]");
     EXPECT_TRUE(app->selected_items()->items().empty());
     EXPECT_TRUE(QTest::qWaitFor([this] { return app->selected_items()->items().size() == 2; }, 60'000));
     EXPECT_EQ(state(), "menu[A, B, *C] library[]");
+    EXPECT_FALSE(app->is_selection_coming());
 }
 
 TEST_F(AppTest, ReturnIsForTheDefaultButtonAlone)

@@ -56,6 +56,8 @@ public:
 
     SelectionReaders& selection_readers() override { throw std::logic_error("selection_readers"); }
 
+    bool is_selection_coming() const override { throw std::logic_error("is_selection_coming"); }
+
     CommandControllerBase* current_editor() override { throw std::logic_error("current_editor"); }
 
     void duplicate_command() override { throw std::logic_error("duplicate"); }

@@ -27,6 +27,8 @@ public:
 
     SelectionReaders& selection_readers() override { throw std::logic_error("nobody reads the selection here"); }
 
+    bool is_selection_coming() const override { return false; }
+
     CommandControllerBase* current_editor() override { return editor; }
 
     void duplicate_command() override { calls += "duplicate "; }

@@ -29,6 +29,9 @@ public:
     /// The command changed behind the widgets: brings everything up to date.
     virtual void refresh() {}
 
+    /// A selection has arrived and will be taken once its paths answer.
+    virtual void selection_coming() {}
+
     /// Brackets several changes, so that what follows from them is done once.
     virtual void begin_update() {}
 
