@@ -6,7 +6,7 @@
 MakeEditors editors_with(platform::Clipboard& clipboard)
 {
     return [&clipboard](AppServices& app) {
-        std::vector<std::unique_ptr<CommandControllerBase>> editors;
+        EditorList editors;
         editors.push_back(std::make_unique<VellumarkController>(app, clipboard));
         editors.push_back(std::make_unique<BuiltinCommandsController>(app));
         return editors;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/mirvanta_app.h"
+#include "app/command_editors.h"
 
 namespace platform {
 class Clipboard;

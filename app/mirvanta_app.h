@@ -1,9 +1,8 @@
 #pragma once
 
-#include "app/mirvanta_named_pipe_server.h"
-#include "app/path_probe.h"
-#include "app/save_flow.h"
-#include "app/selection_intake.h"
+#include "app/command_editors.h"
+#include "app/selection_source.h"
+#include "app/stored_flow.h"
 #include "app/stored_state.h"
 #include "ui/app_services.h"
 #include "ui/lists/commands_list_controller.h"
@@ -12,15 +11,10 @@
 #include <QDialog>
 #include <QUndoStack>
 
-#include <functional>
 #include <memory>
-#include <vector>
 
 class MainAppUi;
 class ToolRow;
-
-/// Makes the editors, in the order in which they are offered a command.
-using MakeEditors = std::function<std::vector<std::unique_ptr<CommandControllerBase>>(AppServices&)>;
 
 /// The program's window and all that it works on: the stored commands, the undo stack, the selection. Main thread
 /// only.
@@ -44,11 +38,11 @@ public:
 
     std::shared_ptr<const MVItemsSet> selected_items() const override { return selected_items_; }
 
-    SelectionReaders& selection_readers() override { return intake_; }
+    SelectionReaders& selection_readers() override { return source_.readers(); }
 
-    bool is_selection_coming() const override { return probe_.is_running() || intake_.is_selection_waiting(); }
+    bool is_selection_coming() const override { return source_.is_selection_coming(); }
 
-    CommandControllerBase* current_editor() override { return current_editor_; }
+    CommandControllerBase* current_editor() override { return editors_.current(); }
 
     void show_menu_list() override;
     void duplicate_command() override;
@@ -65,9 +59,8 @@ public slots:
     /// Closes the dialog. Nothing is saved, nothing is asked.
     void on_cancel();
     void on_help();
-    /// A selection has come: shows the window, and takes the selection once its paths answer and nobody reads the old
-    /// one.
-    /// `command_index` is a row of the menu list, negative for none.
+    /// A selection has come: shows the window, tells the current editor, and takes the selection once its paths
+    /// answer and nobody reads the old one. `command_index` is a row of the menu list, negative for none.
     void on_context_menu_selected(int command_index, const QStringList& paths);
     /// The current command's fields changed.
     void current_command_index_changed();
@@ -87,30 +80,22 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    bool load_stored_commands();
-    void start_intake();
-    void connect_lists();
+    void connect_all();
     void lay_out();
-    void restore_window();
-    void add_editors(const MakeEditors& make_editors);
     void show_list(int list);
     void refresh_save_and_delete();
     void take_selection(int command_index, const QStringList& paths);
-    void save_window_state() const;
 
     std::shared_ptr<MVItemsSet> selected_items_;
     CommandsListController menu_list_;
     CommandsListController library_list_;
     int active_list_ = 0; ///< 0 the menu list, 1 the library: the tab's number
     StoredState stored_;
-    SaveFlow save_flow_;
+    StoredFlow stored_flow_;
     QUndoStack undo_stack_;
     ExemplarItemProvider exemplar_;
-    PathProbe probe_;
-    SelectionIntake intake_;
-    MirvantaNamedPipeServer pipe_server_;
-    std::vector<std::unique_ptr<CommandControllerBase>> editors_;
-    CommandControllerBase* current_editor_ = nullptr;
+    SelectionSource source_;
+    CommandEditors editors_;
     ToolRow* tool_row_; ///< made before `ui_`, so that it comes first in the tab order
     // Goes first: its widgets use all of the above.
     std::unique_ptr<MainAppUi> ui_;

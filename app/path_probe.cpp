@@ -6,8 +6,8 @@
 #include <QDebug>
 
 #include <atomic>
+#include <exception>
 #include <mutex>
-#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -22,7 +22,7 @@ struct PathProbe::Run {
         for (const QString& path : paths) {
             if (is_forgotten)
                 return;
-            look(path);
+            look_at(path);
         }
         const std::lock_guard lock(mutex);
         if (receiver)
@@ -34,6 +34,16 @@ struct PathProbe::Run {
         is_forgotten = true;
         const std::lock_guard lock(mutex);
         receiver = nullptr;
+    }
+
+    void look_at(const QString& path) const
+    {
+        try {
+            look(path);
+        } catch (const std::exception& error) {
+            // Who enters the path meets it again, and can tell of it.
+            qDebug() << "A path can't be looked at:" << error.what();
+        }
     }
 
     const Look look;
@@ -62,11 +72,12 @@ void PathProbe::read_attributes(const QString& path)
 
 void PathProbe::start(int command_index, const QStringList& paths)
 {
+    auto run = std::make_shared<Run>(*this, ++runs_, command_index, paths);
     forget();
-    run_ = std::make_shared<Run>(*this, ++runs_, command_index, paths);
+    run_ = std::move(run);
     try {
         std::thread([run = run_] { run->look_at_all(); }).detach();
-    } catch (const std::system_error& error) {
+    } catch (const std::exception& error) {
         qDebug() << "No thread to look at the paths:" << error.what();
         emit run_ended(runs_, QPrivateSignal());
     }
@@ -75,14 +86,15 @@ void PathProbe::start(int command_index, const QStringList& paths)
 void PathProbe::tell(quint64 number)
 {
     // An older run's end may still have been on its way.
-    if (number != runs_)
+    if (!run_ || run_->number != number)
         return;
-    told_ = number;
-    emit answered(run_->command_index, run_->paths);
+    const std::shared_ptr<const Run> run = run_;
+    forget();
+    emit answered(run->command_index, run->paths);
 }
 
 void PathProbe::forget()
 {
-    if (run_)
-        run_->forget();
+    if (const auto run = std::exchange(run_, nullptr))
+        run->forget();
 }

@@ -13,16 +13,17 @@ class PathProbe final : public QObject
     Q_OBJECT
 
 public:
-    /// Looks at one path; called on any thread, may take for ever.
+    /// Looks at one path; called on any thread, may take for ever. A std::exception counts as an answer.
     using Look = std::function<void(const QString& path)>;
 
     explicit PathProbe(Look look = read_attributes, QObject* parent = nullptr);
     /// Waits for nobody.
     ~PathProbe() override;
 
-    static void read_attributes(const QString& path);
+    /// Whether a selection was given whose paths have not answered yet.
+    bool is_running() const { return run_ != nullptr; }
 
-    bool is_running() const { return runs_ != told_; }
+    static void read_attributes(const QString& path);
 
 public slots:
     /// Begins with a selection and forgets the one before, whether its paths have answered or not.
@@ -42,7 +43,6 @@ private:
     void forget();
 
     const Look look_;
-    std::shared_ptr<Run> run_; ///< shared with its thread
-    quint64 told_ = 0;
-    quint64 runs_ = 0; ///< the newest run's number
+    std::shared_ptr<Run> run_; ///< shared with its thread; null once its answer is told
+    quint64 runs_ = 0;         ///< the newest run's number
 };

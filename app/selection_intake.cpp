@@ -20,7 +20,7 @@ void SelectionIntake::reading_ended()
 {
     // Later: the caller stands in the middle of its own work, which the new selection would start again.
     if (waiting_)
-        QMetaObject::invokeMethod(this, "proceed", Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &SelectionIntake::proceed, Qt::QueuedConnection);
 }
 
 void SelectionIntake::take(int command_index, const QStringList& paths)

@@ -32,15 +32,14 @@ signals:
     /// was reading.
     void selection_ready(int command_index, QStringList paths);
 
-private slots:
-    /// Lets the waiting selection through, or asks those who still read to stop.
-    void proceed();
-
 private:
     struct Selection {
         int command_index;
         QStringList paths;
     };
+
+    /// Lets the waiting selection through, or asks those who still read to stop.
+    void proceed();
 
     std::optional<Selection> waiting_;
     std::vector<SelectionReader*> readers_;

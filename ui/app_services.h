@@ -31,7 +31,8 @@ public:
     /// Where whoever reads the selection on another thread registers, so that it doesn't change meanwhile.
     virtual SelectionReaders& selection_readers() = 0;
 
-    /// Whether a selection has arrived that isn't taken yet.
+    /// Whether a selection has arrived that isn't taken yet: its paths have not answered, or somebody still reads the
+    /// old one. A text made meanwhile is of the old one.
     virtual bool is_selection_coming() const = 0;
 
     /// The editor that shows the active list's current command; null when no editor takes it.

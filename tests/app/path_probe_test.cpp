@@ -5,17 +5,19 @@
 #include <QTest>
 
 #include <future>
+#include <new>
 #include <string>
 
 namespace {
 
-/// Looks that never end at paths on a server that is gone, until the test ends.
+/// Looks that fail at broken paths, and never end at those on a server that is gone, until the test ends.
 class PathProbeTest : public testing::Test
 {
 protected:
     PathProbeTest()
     {
         QObject::connect(probe_.get(), &PathProbe::answered, [this](int index, const QStringList& paths) {
+            EXPECT_FALSE(probe_->is_running());
             answers_ += std::to_string(index) + ":" + paths.join(',').toStdString() + " ";
         });
     }
@@ -32,6 +34,8 @@ protected:
         std::make_unique<PathProbe>([back = server_is_back_.get_future().share()](const QString& path) {
             if (path.startsWith("gone"))
                 back.wait();
+            else if (path.startsWith("broken"))
+                throw std::bad_alloc();
         });
     std::string answers_;
 };
@@ -42,15 +46,16 @@ TEST_F(PathProbeTest, NewestSelectionIsToldOnceAllItsPathsAnswered)
 {
     probe_->start(1, {"a", "b"});
     EXPECT_EQ(answers_, "") << "the window goes on first";
-    probe_->start(2, {"c"});
-    EXPECT_TRUE(answers("2:c "));
+    probe_->start(2, {"broken/c"});
+    EXPECT_TRUE(probe_->is_running());
+    EXPECT_TRUE(answers("2:broken/c "));
     probe_->start(-1, {});
-    EXPECT_TRUE(answers("2:c -1: "));
+    EXPECT_TRUE(answers("2:broken/c -1: "));
 }
 
 TEST_F(PathProbeTest, SilentServerHoldsUpNothingButItsOwnSelection)
 {
-    probe_->start(1, {"a", "gone/b"});
+    probe_->start(1, {"broken/a", "gone/b"});
     probe_->start(2, {"gone/c"});
     QTest::qWait(20);
     EXPECT_EQ(answers_, "");

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/app_services.h"
 #include "ui/editor/command_controller_base.h"
 #include "ui/editor/command_main_widget_base.h"
 
@@ -7,6 +8,7 @@
 
 #include <QSettings>
 
+#include <functional>
 #include <string>
 
 /// A page that keeps one setting.
@@ -36,11 +38,15 @@ public:
 
     bool set_current_command(const std::shared_ptr<MVCommandBase>& command) override
     {
+        if (before_offer)
+            before_offer();
         current = std::dynamic_pointer_cast<VellumarkCommand>(command);
         return current != nullptr;
     }
 
-    void refresh() override { calls += "refresh "; }
+    void refresh() override { calls += app().is_selection_coming() ? "early-refresh " : "refresh "; }
+
+    void selection_coming() override { calls += app().is_selection_coming() ? "coming " : "late "; }
 
     void focus_name() override { calls += "focus "; }
 
@@ -60,4 +66,5 @@ public:
     std::shared_ptr<VellumarkCommand> current;
     std::string calls;
     bool may_close = true;
+    std::function<void()> before_offer; ///< what it throws, the offer of a command throws
 };

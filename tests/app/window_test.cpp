@@ -1,5 +1,6 @@
 #include "app_test.h"
 #include "box_answer.h"
+#include "debug_log.h"
 
 #include "app/appearance.h"
 #include "engine/items/mv_items_set.h"
@@ -15,6 +16,8 @@
 #include <QToolButton>
 #include <QUrl>
 
+#include <functional>
+#include <stdexcept>
 #include <utility>
 
 namespace {
@@ -47,11 +50,39 @@ TEST_F(AppTest, TakesSelections)
             paths += to_qstring(folder.path(name));
         app->on_context_menu_selected(c.index, paths);
         EXPECT_TRUE(QTest::qWaitFor([&] { return editor->calls.ends_with("refresh "); }, 60'000));
+        EXPECT_EQ(editor->calls, "coming refresh ");
         std::string expected(c.expected);
         if (!expected.starts_with("library"))
             expected.insert(expected.find("[L]") + 1, "*");
         EXPECT_EQ(state(), expected);
         EXPECT_EQ(app->selected_items()->items().size(), c.items);
+    }
+}
+
+TEST_F(AppTest, RefreshesAfterASelectionThatCantBeTakenWhole)
+{
+    struct Case {
+        std::function<void()> fail;
+        std::string_view told;
+    };
+
+    const Case cases[] = {
+        {[] { throw std::runtime_error("no more"); }, "Exception in on_context_menu_selected: no more"},
+        {[] { throw 1; }, "Unknown exception in on_context_menu_selected"},
+    };
+    folder.write("a.txt");
+    store("A", "L");
+    for (const Case& c : cases) {
+        open_again();
+        show_tab(1);
+        editor->calls.clear();
+        editor->before_offer = c.fail;
+        const DebugLog log;
+        app->on_context_menu_selected(0, {to_qstring(folder.path("a.txt"))});
+        EXPECT_TRUE(QTest::qWaitFor([&] { return editor->calls == "coming refresh "; }, 60'000)) << editor->calls;
+        EXPECT_TRUE(DebugLog::text().ends_with(c.told)) << DebugLog::text();
+        EXPECT_EQ(app->selected_items()->items().size(), 1U);
+        editor->before_offer = nullptr;
     }
 }
 
@@ -91,10 +122,12 @@ TEST_F(AppTest, LeavesTheSelectionAloneWhileItIsRead)
     EXPECT_TRUE(QTest::qWaitFor(is_waiting, 60'000));
     app->on_context_menu_selected(2, {to_qstring(folder.path("a.txt")), to_qstring(folder.path("b.txt"))});
     EXPECT_TRUE(run.is_reading());
+    EXPECT_TRUE(app->is_selection_coming());
     EXPECT_EQ(state(), "menu[*A, B, C] library[]");
     EXPECT_TRUE(app->selected_items()->items().empty());
     EXPECT_TRUE(QTest::qWaitFor([this] { return app->selected_items()->items().size() == 2; }, 60'000));
     EXPECT_EQ(state(), "menu[A, B, *C] library[]");
+    EXPECT_FALSE(app->is_selection_coming());
 }
 
 TEST_F(AppTest, ReturnIsForTheDefaultButtonAlone)
