@@ -18,7 +18,7 @@ constexpr double tab_stop_distance = 30.0;
 /// Lines to begin with while the edit has not got its size.
 constexpr int least_screenful = 100;
 constexpr qsizetype step_pieces = 200, step_units = 16'384;
-constexpr qint64 slice_ms = 3;
+constexpr qint64 slice_ms = 2;
 /// The first screenful is painted and what the user does is heard before the rest comes.
 constexpr int pause_before_rest_ms = 10;
 /// Of the bar at a fold, which is narrower than the document's margin.
