@@ -36,6 +36,23 @@ Block scroll(PreviewWindow& window, QScrollBar& bar)
     return watch.longest();
 }
 
+/// Long lines that are shown whole, in scripts that take longest to lay out.
+QString long_lines(int lines, int units)
+{
+    const QString words = QStringLiteral("\u00c4pfel \u65e5\u672c \u0627\u0644\u0639 .jpeg, ");
+    return (words.repeated(units / words.size()) + u'\n').repeated(lines);
+}
+
+Block resize(PreviewWindow& window)
+{
+    LoopWatch watch;
+    for (const int width : {800, 1200, 1000}) {
+        window.widget().resize(width, width - 300);
+        window.wait_for_paint();
+    }
+    return watch.longest();
+}
+
 void measure(Report& report, const char* name, const QString& text)
 {
     PreviewWindow window;
@@ -54,6 +71,7 @@ void measure(Report& report, const char* name, const QString& text)
                block_target);
     report.add(name, "scrolling right, longest block", scroll(window, *window.edit().horizontalScrollBar()),
                block_target);
+    report.add(name, "another size, longest block", resize(window), block_target);
     watch.restart();
     window.edit().selectAll();
     window.edit().copy();
@@ -85,5 +103,7 @@ void measure_big_texts(Report& report)
     measure(report, "200,000 lines, 20 MB", many_lines(QStringLiteral("\n")));
     measure(report, "200,000 lines, CR LF", many_lines(QStringLiteral("\r\n")));
     measure(report, "one line of 20 MB", one_line());
+    measure(report, "one line of 25,000 units", long_lines(1, 25'000));
+    measure(report, "200,000 lines, 24 of 1,500", long_lines(24, 1'500) + many_lines(QStringLiteral("\n")));
     replace_often(report, many_lines(QStringLiteral("\n")));
 }

@@ -1,12 +1,13 @@
 #pragma once
 
+#include "preview/paint_watch.h"
 #include "ui/preview/clipboard_preview_container_widget.h"
 #include "ui/preview/preview_text_edit.h"
 
 #include <QElapsedTimer>
 
 /// The preview in a window of its own, which knows when its text was last painted.
-class PreviewWindow final : public QObject
+class PreviewWindow
 {
 public:
     PreviewWindow();
@@ -17,13 +18,12 @@ public:
 
     /// Shows the text and returns the milliseconds until its first screenful is painted.
     double show_and_paint(const QString& text);
+
     /// Runs the event loop until the text has been painted after this call.
-    bool wait_for_paint();
+    bool wait_for_paint() { return paints_.wait(); }
 
 private:
-    bool eventFilter(QObject* object, QEvent* event) override;
-
     ClipboardPreviewContainerWidget widget_;
     PreviewTextEdit* const edit_;
-    int paints_ = 0;
+    PaintWatch paints_;
 };

@@ -2,10 +2,11 @@
 
 #include "preview/report.h"
 
-/// Texts of 20 MB in the preview: until they show, while they come, scrolled, copied and replaced.
+/// Texts of 20 MB and long lines in the preview: until they show, while they come, scrolled, resized, copied and
+/// replaced.
 void measure_big_texts(Report& report);
 
-/// From a change of the command to the new text on the screen, with 10,000 files.
+/// From a change of the command to the new text in the application's window, with 10,000 files.
 void measure_key_strokes(Report& report);
 
 /// What a run costs more when somebody looks at its progress.

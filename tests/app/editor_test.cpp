@@ -13,9 +13,6 @@
 #include <QPlainTextEdit>
 #include <QTest>
 
-#include <filesystem>
-#include <fstream>
-
 namespace {
 
 constexpr std::string_view sums = R"({"menuCommands":[{"commandType":"Vellumark","name":"Sums","separator":"",
@@ -48,14 +45,6 @@ protected:
     bool shows(const QString& text) const
     {
         return QTest::qWaitFor([&] { return preview().isVisible() && preview().toPlainText() == text; }, 60'000);
-    }
-
-    /// A file that no checksum of is done soon, and no disk holds.
-    QString endless_file() const
-    {
-        std::ofstream(folder.host("endless"));
-        std::filesystem::resize_file(folder.host("endless"), std::uintmax_t{1} << 42);
-        return to_qstring(folder.path("endless"));
     }
 
     FakeClipboard clipboard;
@@ -197,7 +186,7 @@ TEST_F(EditorTest, OkMeansTheSelectionThatIsComing)
 
 TEST_F(EditorTest, WaitsForTheTextThatIsStillMade)
 {
-    open_with({endless_file()});
+    open_with({to_qstring(folder.write_endless("endless"))});
     press("OK");
     auto* box = app->findChild<WaitForTextDlg*>();
     ASSERT_TRUE(box && box->isVisible());

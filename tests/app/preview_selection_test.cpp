@@ -61,7 +61,7 @@ TEST_F(PreviewSelectionTest, NewSelectionStopsTheRunAndIsShown)
 {
     PreviewLog log(*generator_);
     command_ = checksums();
-    intake_.take(0, {to_qstring(endless_file(folder_, "endless"))});
+    intake_.take(0, {to_qstring(folder_.write_endless("endless"))});
     EXPECT_TRUE(generator_->is_reading());
     EXPECT_FALSE(intake_.is_selection_waiting()) << "nobody was reading";
     command_ = names();

@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <unistd.h>
-
 #include <chrono>
 #include <condition_variable>
 #include <thread>
@@ -55,7 +53,7 @@ public:
     std::vector<std::string> texts(std::size_t count)
     {
         std::unique_lock lock(mutex_);
-        changed_.wait_for(lock, 20s, [&] { return texts_.size() >= count; });
+        changed_.wait_for(lock, 60s, [&] { return texts_.size() >= count; });
         return texts_;
     }
 
@@ -72,6 +70,34 @@ private:
     std::mutex mutex_;
     std::condition_variable changed_;
     std::vector<std::string> texts_, statuses_;
+};
+
+/// Whether it comes to be so within a minute.
+bool becomes(const std::function<bool()>& condition)
+{
+    const auto end = std::chrono::steady_clock::now() + 60s;
+    while (!condition()) {
+        if (std::chrono::steady_clock::now() > end)
+            return false;
+        std::this_thread::sleep_for(1ms);
+    }
+    return true;
+}
+
+/// Holds a run in its item report.
+struct Gate {
+    std::atomic<bool> reached = false, open = false;
+
+    void hold()
+    {
+        reached = true;
+        EXPECT_TRUE(becomes([this] { return open.load(); }));
+    }
+
+    bool is_reached() const
+    {
+        return becomes([this] { return reached.load(); });
+    }
 };
 
 VellumarkCommand literal(const std::string& text)
@@ -99,24 +125,18 @@ using Texts = std::vector<std::string>;
 
 TEST_F(Runner, OfABurstOnlyTheLastIsDelivered)
 {
-    std::atomic<bool> entered = false, release = false;
-    watcher_.during = [&] {
-        entered = true;
-        while (!release)
-            std::this_thread::sleep_for(1ms);
-    };
+    Gate gate;
+    watcher_.during = [&] { gate.hold(); };
     VellumarkThread thread(watcher_, items_);
     const VellumarkCommand blocked = hashing();
     thread.request(&blocked, 1);
-    while (!entered)
-        std::this_thread::sleep_for(1ms);
-    EXPECT_TRUE(thread.is_running());
+    EXPECT_TRUE(gate.is_reached() && thread.is_running());
     for (std::uint32_t id = 2; id <= 11; ++id) {
         const VellumarkCommand command = literal("t" + std::to_string(id));
         thread.request(&command, id);
     }
     EXPECT_FALSE(thread.is_running());
-    release = true;
+    gate.open = true;
     EXPECT_EQ(watcher_.texts(1), Texts{"11:t11"});
     const VellumarkCommand again = literal("again");
     thread.request(&again, 12);
@@ -125,12 +145,11 @@ TEST_F(Runner, OfABurstOnlyTheLastIsDelivered)
 
 TEST_F(Runner, ANullRequestEndsTheRunWithoutAText)
 {
-    std::atomic<bool> entered = false;
+    Gate gate;
     VellumarkThread* running = nullptr;
     watcher_.during = [&] {
-        entered = true;
-        while (!running->is_cancelled())
-            std::this_thread::sleep_for(1ms);
+        gate.reached = true;
+        EXPECT_TRUE(becomes([&] { return running->is_cancelled(); }));
     };
     VellumarkThread thread(watcher_, items_);
     running = &thread;
@@ -138,8 +157,7 @@ TEST_F(Runner, ANullRequestEndsTheRunWithoutAText)
     EXPECT_FALSE(thread.is_running());
     const VellumarkCommand blocked = hashing(), next = literal("next");
     thread.request(&blocked, 1);
-    while (!entered)
-        std::this_thread::sleep_for(1ms);
+    EXPECT_TRUE(gate.is_reached());
     thread.request(nullptr, 2);
     thread.request(&next, 3);
     EXPECT_EQ(watcher_.texts(1), Texts{"3:next"});
@@ -147,13 +165,9 @@ TEST_F(Runner, ANullRequestEndsTheRunWithoutAText)
 
 TEST_F(Runner, IsIdleOnlyWhenACancelledRunHasReallyEnded)
 {
-    std::atomic<bool> entered = false, release = false;
+    Gate gate;
     std::atomic<int> told = 0;
-    watcher_.during = [&] {
-        entered = true;
-        while (!release)
-            std::this_thread::sleep_for(1ms);
-    };
+    watcher_.during = [&] { gate.hold(); };
     VellumarkThread thread(watcher_, items_);
     watcher_.on_idle = [&] {
         told += thread.is_idle() ? 1 : 100;
@@ -162,17 +176,14 @@ TEST_F(Runner, IsIdleOnlyWhenACancelledRunHasReallyEnded)
     EXPECT_TRUE(thread.is_idle());
     const VellumarkCommand blocked = hashing();
     for (int runs = 1; runs <= 2; ++runs) {
-        entered = release = false;
+        gate.reached = gate.open = false;
         thread.request(&blocked, 1);
-        while (!entered)
-            std::this_thread::sleep_for(1ms);
+        EXPECT_TRUE(gate.is_reached());
         thread.request(nullptr, 0);
         std::this_thread::sleep_for(5ms);
         EXPECT_FALSE(thread.is_running() || thread.is_idle());
-        release = true;
-        while (told < runs)
-            std::this_thread::sleep_for(1ms);
-        EXPECT_TRUE(thread.is_idle());
+        gate.open = true;
+        EXPECT_TRUE(becomes([&] { return told >= runs; }) && thread.is_idle());
     }
     EXPECT_EQ(told, 2);
 }
@@ -209,29 +220,24 @@ TEST_F(Runner, AWatcherThatThrowsEndsNothing)
     VellumarkThread thread(watcher_, items_);
     const VellumarkCommand command = literal("x");
     thread.request(&command, 1);
-    while (thread.is_running())
-        std::this_thread::sleep_for(1ms);
+    EXPECT_TRUE(becomes([&] { return !thread.is_running(); }));
     thread.request(&command, 2);
     EXPECT_EQ(watcher_.texts(1), Texts{"2:x"});
 }
 
 TEST_F(Runner, DestructionStopsALongChecksum)
 {
-    ASSERT_EQ(truncate(folder_.host("f").c_str(), std::int64_t{64} << 30), 0);
-    std::atomic<bool> entered = false;
-    watcher_.during = [&] { entered = true; };
-    const auto begin = [&] {
-        auto thread = std::make_unique<VellumarkThread>(watcher_, items_);
-        const VellumarkCommand command = hashing();
-        thread->request(&command, 1);
-        while (!entered)
-            std::this_thread::sleep_for(1ms);
-        return thread;
-    };
-    auto thread = begin();
+    folder_.write_endless("f");
+    Gate gate;
+    gate.open = true;
+    watcher_.during = [&] { gate.hold(); };
+    auto thread = std::make_unique<VellumarkThread>(watcher_, items_);
+    const VellumarkCommand command = hashing();
+    thread->request(&command, 1);
+    EXPECT_TRUE(gate.is_reached());
     const auto started = std::chrono::steady_clock::now();
     thread.reset();
-    EXPECT_LT(std::chrono::steady_clock::now() - started, 2s);
+    EXPECT_LT(std::chrono::steady_clock::now() - started, 60s);
     EXPECT_TRUE(watcher_.texts(0).empty());
 }
 
@@ -254,8 +260,7 @@ TEST_F(Runner, SurvivesRequestsAtAnyMoment)
                 std::this_thread::sleep_for(std::chrono::microseconds(id * 3));
         }
         thread.request(&text, 200);
-        while (last_text < 200)
-            std::this_thread::sleep_for(1ms);
+        EXPECT_TRUE(becomes([&] { return last_text >= 200; }));
         last_text = 0;
     }
 }

@@ -9,8 +9,6 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <unistd.h>
-
 #include <memory>
 #include <string>
 
@@ -34,14 +32,6 @@ inline std::shared_ptr<VellumarkCommand> names()
 inline std::shared_ptr<VellumarkCommand> checksums()
 {
     return command_with(R"({"item-type":"checksum","checksum-type":"crc32"})");
-}
-
-/// A file whose checksum takes longer than any test.
-inline std::u16string endless_file(const TempFolder& folder, const char* name)
-{
-    std::u16string path = folder.write(name);
-    EXPECT_EQ(truncate(folder.host(name).c_str(), std::int64_t{64} << 30), 0);
-    return path;
 }
 
 /// What a generator says, as one line.

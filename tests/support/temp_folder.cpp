@@ -6,6 +6,7 @@
 #include <sys/stat.h>
 
 #include <array>
+#include <cstdint>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -44,6 +45,13 @@ std::u16string TempFolder::write(std::string_view name, std::string_view content
     if (!(file << content).flush())
         throw std::runtime_error("cannot write " + host(name));
     return path(name);
+}
+
+std::u16string TempFolder::write_endless(std::string_view name) const
+{
+    std::u16string path = write(name);
+    fs::resize_file(host(name), std::uintmax_t{1} << 42);
+    return path;
 }
 
 std::u16string TempFolder::make_folder(std::string_view name) const

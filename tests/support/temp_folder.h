@@ -19,6 +19,8 @@ public:
 
     /// Creates a file with its missing parent folders; returns its drive form.
     std::u16string write(std::string_view name, std::string_view content = {}) const;
+    /// Creates a file that takes no room on the disk, and to read longer than any test; returns its drive form.
+    std::u16string write_endless(std::string_view name) const;
     /// Creates a folder with its missing parents; returns its drive form.
     std::u16string make_folder(std::string_view name) const;
     /// Creates a symbolic link `name` with the text `target`; returns the link's drive form.

@@ -5,6 +5,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QScrollBar>
 #include <QTest>
 
 namespace {
@@ -39,6 +40,9 @@ QString copied_unit_by_unit(const Shown& shown)
 
 const QString pair = QString::fromUcs4(U"\U0001F600", 1);
 
+/// The longest line that is never folded where it comes first.
+constexpr qsizetype whole = TextPieces::fold + TextPieces::room;
+
 /// A surrogate pair at each place of a line, so that every cut falls into one.
 QString pairs(int count, bool shifted)
 {
@@ -55,10 +59,10 @@ const std::vector<QString> texts{
     "a\r\nb\r\n\r\n",
     "a\rb\n\rc",
     odd_units,
-    QString(TextPieces::longest, u'x') + "\r\n" + QString(TextPieces::longest + 1, u'y') + "\n",
-    QString(5 * TextPieces::longest, u'z'),
-    pairs(3000, false),
-    pairs(3000, true),
+    QString(whole, u'x') + "\r\n" + QString(TextPieces::fold + 1, u'y') + "\n",
+    QString(whole + 1, u'z'),
+    pairs(20'000, false),
+    pairs(20'000, true),
 };
 
 PreviewTextEdit& edit_with(const QString& text)
@@ -97,21 +101,41 @@ TEST(TextPieces, EveryPlaceLeadsBackIntoTheText)
             const Shown all = shown(text, pieces, units);
             EXPECT_EQ(copied_unit_by_unit(all), text);
             EXPECT_EQ(all.pieces.shown_part(0, all.text.size()), (TextPieces::Part{0, text.size()}));
-            for (const QString& piece : all.text.split(u'\n')) {
-                EXPECT_LE(piece.size(), TextPieces::longest);
+            for (const QString& piece : all.text.split(u'\n'))
                 EXPECT_FALSE(piece.startsWith(pair.back()) || piece.endsWith(pair.front()));
-            }
         }
+}
+
+TEST(TextPieces, FoldsOnlyWhatTakesTooLongToPaint)
+{
+    struct Case {
+        int lines, units, paragraphs;
+    };
+
+    const auto folded = [](int length) { return (length - 1) / int{TextPieces::fold} + 1; };
+    for (const Case& c : {Case{1, 5'000, 1}, Case{1, int{whole}, 1}, Case{1, int{whole} + 1, folded(whole + 1)},
+                          Case{10'000, 500, 10'000}, Case{15, 2'000, 15}, Case{200, 2'000, 16 + 184 * folded(2'000)},
+                          Case{1, 500'000, folded(500'000)}}) {
+        const Shown all = shown((QString(c.units, u'x') + u'\n').repeated(c.lines), 1'000, 100'000);
+        const QStringList paragraphs = all.text.split(u'\n');
+        EXPECT_EQ(paragraphs.size() - 1, c.paragraphs) << c.lines << " of " << c.units;
+        qsizetype place = 0, folds = 0;
+        for (const QString& paragraph : paragraphs) {
+            folds += all.pieces.continues_line(place) ? 1 : 0;
+            place += paragraph.size() + 1;
+        }
+        EXPECT_EQ(folds, c.paragraphs - c.lines);
+    }
 }
 
 TEST(TextPieces, TakesNoMoreThanItIsAsked)
 {
-    TextPieces pieces(QString(10 * TextPieces::longest, u'x'));
+    constexpr qsizetype fold = TextPieces::fold;
+    TextPieces pieces(QString(1'000 * fold, u'x'));
     EXPECT_EQ(pieces.next(2, 1'000'000).count(u'\n'), 2);
-    EXPECT_EQ(pieces.next(100, TextPieces::longest + 10).count(u'\n'), 2);
-    EXPECT_EQ(pieces.shown_part(0, 4 * TextPieces::longest + 4).length, 10 * TextPieces::longest)
-        << "what comes joins it";
-    EXPECT_EQ(pieces.shown_part(5, 2 * TextPieces::longest + 2).length, 2 * TextPieces::longest - 5);
+    EXPECT_EQ(pieces.next(100, fold + 10).count(u'\n'), 2);
+    EXPECT_EQ(pieces.shown_part(0, 4 * fold + 4).length, 1'000 * fold) << "what comes joins it";
+    EXPECT_EQ(pieces.shown_part(5, 2 * fold + 2).length, 2 * fold - 5);
 }
 
 TEST(PreviewTextEdit, CopiesTheTextAsItIs)
@@ -123,6 +147,21 @@ TEST(PreviewTextEdit, CopiesTheTextAsItIs)
         edit.selectAll();
         EXPECT_EQ(copied(edit), text);
     }
+}
+
+TEST(PreviewTextEdit, MarksFoldsInTheMargin)
+{
+    PreviewTextEdit& edit = edit_with(QString(whole + 1, u'x'));
+    EXPECT_TRUE(fills(edit));
+    const auto bars = [&](int block) {
+        edit.verticalScrollBar()->setValue(block);
+        const QImage image = edit.viewport()->grab().toImage();
+        const QRgb bar = edit.palette().color(QPalette::Highlight).rgb();
+        const int line = edit.fontMetrics().lineSpacing();
+        return std::pair(image.pixel(1, line / 2) == bar, image.pixel(1, 2 * line) == bar);
+    };
+    EXPECT_EQ(bars(0), std::pair(false, true));
+    EXPECT_EQ(bars(1), std::pair(true, true));
 }
 
 TEST(PreviewTextEdit, ShowsAndSelectsWhileTheRestComes)

@@ -99,6 +99,10 @@ TEST(ElidedLabel, LeavesTheMiddleOutAndAsksForNoWidth)
     EXPECT_TRUE(label.text().startsWith("C:\\x") && label.text().endsWith("x end"));
     EXPECT_LE(label.fontMetrics().horizontalAdvance(label.text()), 200);
     EXPECT_EQ(label.accessibleName().size(), 507);
+    QFont larger = label.font();
+    larger.setPointSizeF(2 * larger.pointSizeF());
+    label.setFont(larger);
+    EXPECT_LE(label.fontMetrics().horizontalAdvance(label.text()), 200);
     label.resize(100'000, 20);
     EXPECT_EQ(label.text().size(), 507);
     EXPECT_EQ(label.sizePolicy().horizontalPolicy(), QSizePolicy::Ignored);

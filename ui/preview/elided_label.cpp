@@ -1,5 +1,6 @@
 #include "ui/preview/elided_label.h"
 
+#include <QEvent>
 #include <QFontMetrics>
 
 ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent)
@@ -10,13 +11,21 @@ ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent)
 
 void ElidedLabel::set_text(const QString& text)
 {
-    if (text == whole_text_)
-        return;
-    whole_text_ = text;
+    QString line = text;
     // A name can hold line ends.
-    whole_text_.replace(u'\n', u' ').replace(u'\r', u' ');
+    line.replace(u'\n', u' ').replace(u'\r', u' ');
+    if (line == whole_text_)
+        return;
+    whole_text_ = line;
     setAccessibleName(whole_text_);
     elide();
+}
+
+void ElidedLabel::changeEvent(QEvent* event)
+{
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        elide();
 }
 
 void ElidedLabel::resizeEvent(QResizeEvent* event)

@@ -14,6 +14,7 @@ public:
     void set_text(const QString& text);
 
 protected:
+    void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:

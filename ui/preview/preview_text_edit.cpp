@@ -5,8 +5,10 @@
 #include <QAbstractTextDocumentLayout>
 #include <QElapsedTimer>
 #include <QFontDatabase>
+#include <QPainter>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QTextBlock>
 
 #include <algorithm>
 
@@ -16,9 +18,11 @@ constexpr double tab_stop_distance = 30.0;
 /// Lines to begin with while the edit has not got its size.
 constexpr int least_screenful = 100;
 constexpr qsizetype step_pieces = 200, step_units = 16'384;
-constexpr qint64 slice_ms = 3;
+constexpr qint64 slice_ms = 2;
 /// The first screenful is painted and what the user does is heard before the rest comes.
 constexpr int pause_before_rest_ms = 10;
+/// Of the bar at a fold, which is narrower than the document's margin.
+constexpr qreal bar_gap = 1, bar_width = 2;
 
 }
 
@@ -51,7 +55,11 @@ void PreviewTextEdit::append_pieces(qsizetype pieces, qsizetype units)
 {
     QTextCursor end(document());
     end.movePosition(QTextCursor::End);
+    QTextBlock block = end.block();
     end.insertText(pieces_.next(pieces, units));
+    // Each block makes its layout when it is first asked for it; a new width of the window would ask all at once.
+    for (; block.isValid(); block = block.next())
+        block.layout();
 }
 
 void PreviewTextEdit::append_slice()
@@ -72,6 +80,30 @@ void PreviewTextEdit::append_slice()
         viewport()->update();
     if (pieces_.is_complete())
         fill_timer_.stop();
+}
+
+void PreviewTextEdit::paintEvent(QPaintEvent* event)
+{
+    QPlainTextEdit::paintEvent(event);
+    mark_folds();
+}
+
+void PreviewTextEdit::mark_folds()
+{
+    QPainter painter(viewport());
+    const QColor colour = palette().color(QPalette::Highlight);
+    for (QTextBlock block = firstVisibleBlock(); block.isValid(); block = block.next()) {
+        const QRectF line = blockBoundingGeometry(block).translated(contentOffset());
+        if (line.top() > viewport()->height())
+            break;
+        QRectF bar(line.left() + bar_gap, line.top(), bar_width, line.height());
+        if (pieces_.continues_line(block.position()))
+            painter.fillRect(bar, colour);
+        const QTextLine text = block.layout()->lineAt(0);
+        bar.moveLeft(line.left() + text.x() + text.naturalTextWidth() + bar_gap);
+        if (block.next().isValid() && pieces_.continues_line(block.next().position()))
+            painter.fillRect(bar, colour);
+    }
 }
 
 int PreviewTextEdit::visible_lines() const

@@ -6,8 +6,9 @@
 #include <QTimer>
 
 /// Shows a text of any size and keeps the window alive meanwhile: the first screenful comes at once, the rest in
-/// slices of a few milliseconds. Long lines are folded for the eye; what is selected is copied as it stands in the
-/// text, also when the text is not all there yet. Main thread only.
+/// slices of a few milliseconds. Where a very long line is folded, a bar stands at the end and at the begin of what
+/// was parted. What is selected is copied as it stands in the text, also when the text is not all there yet. Main
+/// thread only.
 class PreviewTextEdit final : public QPlainTextEdit
 {
     Q_OBJECT
@@ -24,11 +25,13 @@ public:
     bool is_filling() const { return fill_timer_.isActive(); }
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
     QMimeData* createMimeDataFromSelection() const override;
 
 private:
     void append_pieces(qsizetype pieces, qsizetype units);
     void append_slice();
+    void mark_folds();
     int visible_lines() const;
 
     TextPieces pieces_;

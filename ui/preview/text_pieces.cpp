@@ -15,14 +15,11 @@ bool is_structure_mark(QChar unit)
     return unit == QChar(0xfdd0) || unit == QChar(0xfdd1);
 }
 
-qsizetype piece_length(QStringView rest)
+/// The units up to the end of the line, `most` when it is further away.
+qsizetype line_length(QStringView rest, qsizetype most)
 {
-    const QStringView piece = rest.first(std::min(rest.size(), TextPieces::longest));
-    const auto end = std::ranges::find_if(piece, ends_line);
-    if (end != piece.end() || piece.size() == rest.size())
-        return end - piece.begin();
-    const bool cuts_pair = piece.back().isHighSurrogate() && rest[piece.size()].isLowSurrogate();
-    return piece.size() - (cuts_pair ? 1 : 0);
+    const QStringView begin = rest.first(std::min(rest.size(), most));
+    return std::ranges::find_if(begin, ends_line) - begin.begin();
 }
 
 }
@@ -35,6 +32,21 @@ QString TextPieces::next(qsizetype pieces, qsizetype units)
         --pieces;
     }
     return shown;
+}
+
+qsizetype TextPieces::piece_length(QStringView rest)
+{
+    const bool continues = folding_;
+    const qsizetype most = continues ? fold : fold + room_;
+    const qsizetype length = line_length(rest, most + 1);
+    folding_ = length > most;
+    // A short line makes room again, but not the end of a folded one, so that lines alike stay folded.
+    if (!folding_ && !continues)
+        room_ = std::min(room, room_ + fold - length);
+    if (!folding_)
+        return length;
+    const bool cuts_pair = rest[fold - 1].isHighSurrogate() && rest[fold].isLowSurrogate();
+    return fold - (cuts_pair ? 1 : 0);
 }
 
 void TextPieces::append_piece(QString& shown)
@@ -77,4 +89,9 @@ TextPieces::Part TextPieces::shown_part(qsizetype from, qsizetype to) const
     const qsizetype begin = offset_of(from);
     const qsizetype end = to >= shown_ ? text_.size() : offset_of(to);
     return {begin, end - begin};
+}
+
+bool TextPieces::continues_line(qsizetype begin) const
+{
+    return begin > 0 && !ends_line(text_[offset_of(begin) - 1]);
 }

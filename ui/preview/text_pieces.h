@@ -4,13 +4,17 @@
 
 #include <vector>
 
-/// A text cut into pieces that a text edit can lay out, each a paragraph there: its lines, and of longer lines parts
-/// of at most `longest` units. Says where a place of what is shown lies in the text, so that neither the added ends
-/// of paragraphs nor those that the edit writes in its own way reach anybody. Surrogate pairs stay whole.
+/// A text cut into pieces that a text edit can lay out, each a paragraph there: its lines, and of a line that would
+/// take too long to paint parts of `fold` units. Says where a place of what is shown lies in the text, so that
+/// neither the added ends of paragraphs nor those that the edit writes in its own way reach anybody. Surrogate pairs
+/// stay whole.
 class TextPieces
 {
 public:
-    static constexpr qsizetype longest = 1024;
+    /// A line is folded only when it has more than `fold` units and the lines before it left no room for it: any `n`
+    /// pieces in a row have at most `room + n * fold` units. A text edit lays out and paints all of a line, however
+    /// little of it can be seen, and for a selected mix of scripts takes up to 1 us a unit.
+    static constexpr qsizetype fold = 512, room = 24'576;
 
     explicit TextPieces(QString text = {}) : text_(std::move(text)) {}
 
@@ -35,6 +39,9 @@ public:
     /// stands for the end of the text: pieces that are appended there join a selection, too.
     Part shown_part(qsizetype from, qsizetype to) const;
 
+    /// Whether the piece that is shown from `begin` on goes on with the line of the one before.
+    bool continues_line(qsizetype begin) const;
+
 private:
     /// From `shown` on, and up to the next joint, what is shown and the text run in parallel.
     struct Joint {
@@ -43,13 +50,16 @@ private:
     };
 
     qsizetype offset_of(qsizetype shown) const;
+    qsizetype piece_length(QStringView rest);
     void append_piece(QString& shown);
     /// Steps over the line end or the cut behind a piece.
     void end_piece(QString& shown);
 
     QString text_;
-    qsizetype taken_ = 0; ///< units of the text
-    qsizetype shown_ = 0; ///< units of what is shown for them
+    qsizetype taken_ = 0;   ///< units of the text
+    qsizetype shown_ = 0;   ///< units of what is shown for them
+    qsizetype room_ = room; ///< for what a line has beyond `fold`
+    bool folding_ = false;  ///< the line that is being taken
     bool complete_ = false;
     std::vector<Joint> joints_;
 };
