@@ -33,7 +33,7 @@ Descriptor end_of_process(pid_t id)
 /// A launcher may hand down that ends of children are ignored; then nobody could learn how they ended.
 void keep_ends_of_children()
 {
-    struct sigaction action {};
+    struct sigaction action = {};
     if (sigaction(SIGCHLD, nullptr, &action) == 0 && action.sa_handler == SIG_IGN)
         std::signal(SIGCHLD, SIG_DFL);
 }

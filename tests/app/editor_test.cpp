@@ -134,7 +134,7 @@ TEST_F(EditorTest, CopiesWhatWasComparedThoughASelectionComes)
 
 TEST_F(EditorTest, ARunThatFailsIsToldAndNotCopied)
 {
-    open_with({endless_file()});
+    open_with({to_qstring(folder.write_endless("endless"))});
     auto& generator = *app->current_editor()->findChild<PreviewGenerator*>();
     generator.set_command(nullptr);
     // As the worker would, for whichever request is the last; what makes a real run fail is a lack of memory.
@@ -159,7 +159,7 @@ TEST_F(EditorTest, ARunThatFailsIsToldAndNotCopied)
 TEST_F(EditorTest, ASelectionEndsTheWaitForTheOldOne)
 {
     for (const int row : {2, 1, -1}) {
-        open_with({endless_file()});
+        open_with({to_qstring(folder.write_endless("endless"))});
         press("OK");
         auto* box = app->findChild<WaitForTextDlg*>();
         ASSERT_TRUE(box && box->isVisible());

@@ -67,7 +67,7 @@ class Look(ProgramTest):
         entries = [f"{SAMPLES}/{name}" for name in sorted(os.listdir(SAMPLES))]
         self.assertEqual(self.program.select("--index", "2", "--", *entries), (0, ""))
         self.wait_for([2], self.program.selected)
-        self.program.rename_current("Copy Paths")
+        self.program.rename_in_place(2, "Copy Paths")
         self.wait_for("Copy Paths" + UNSAVED, lambda: self.program.cell(2).name)
         self.desktop.key("Up", "Up")
         self.wait_for([0], self.program.selected)

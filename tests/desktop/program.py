@@ -90,6 +90,7 @@ class Program:
         self.find_root(self.process.pid)
 
     def _start_process(self, environment):
+        self.scale = int(environment.get("QT_SCALE_FACTOR", "1"))
         self.process = self.desktop.start(
             self.folder + "/VellumarkConfigure", env=self.environment | environment, stderr=subprocess.PIPE
         )
@@ -164,7 +165,8 @@ class Program:
     def middle(self, node):
         """Where to click it, on the screen."""
         box = node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
-        return box.x + box.width // 2, box.y + box.height // 2
+        # The toolkit tells its own units, not the screen's.
+        return self.scale * (box.x + box.width // 2), self.scale * (box.y + box.height // 2)
 
     def click(self, node, button=1):
         self.desktop.click(*self.middle(node), button)
