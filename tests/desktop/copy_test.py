@@ -55,7 +55,7 @@ class Copy(ProgramTest):
         self.desktop.key("Return")
 
     def check_nothing_copied(self):
-        self.assertEqual(self.desktop.windows(TITLE), [self.program.window])
+        self.wait_for([self.program.window], lambda: self.desktop.windows(TITLE))
         self.assertEqual(self.desktop.clipboard(), b"before")
         self.assertIsNone(self.program.read("LastCmd.json"))
 

@@ -94,7 +94,7 @@ std::string number(std::uint64_t value, int bytes, bool is_big = false)
 {
     std::string result;
     for (int i = 0; i < bytes; ++i)
-        result.insert(is_big ? result.begin() : result.end(), static_cast<char>(value >> (8 * i)));
+        result.insert(is_big ? result.begin() : result.end(), static_cast<char>(i < 8 ? value >> (8 * i) : 0));
     return result;
 }
 
