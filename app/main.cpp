@@ -3,6 +3,7 @@
 #include "app/mirvanta_app.h"
 #include "app/program.h"
 #include "ui/clipboard/system_clipboard.h"
+#include "ui/clipboard/window_system_choice.h"
 
 #include <QApplication>
 
@@ -11,8 +12,9 @@
 int main(int argc, char* argv[])
 {
     Program::prepare();
-    SystemClipboard::prepare();
+    const WindowSystemChoice window_system;
     QApplication application(argc, argv);
+    window_system.forget();
     const Program program(application);
     SystemClipboard clipboard;
     MirvantaApp window(editors_with(clipboard));

@@ -49,6 +49,8 @@ MirvantaApp::MirvantaApp(const MakeEditors& make_editors)
 {
     setWindowTitle(QCoreApplication::applicationName());
     const bool loaded = stored_flow_.load();
+    connect(&source_, &SelectionSource::arrived, this, &MirvantaApp::on_context_menu_selected);
+    connect(&source_, &SelectionSource::ready, this, &MirvantaApp::take_selection);
     source_.start();
     ui_ = std::make_unique<MainAppUi>(*this);
     connect_all();
@@ -67,8 +69,6 @@ MirvantaApp::~MirvantaApp() = default;
 
 void MirvantaApp::connect_all()
 {
-    connect(&source_, &SelectionSource::arrived, this, &MirvantaApp::on_context_menu_selected);
-    connect(&source_, &SelectionSource::ready, this, &MirvantaApp::take_selection);
     connect(&editors_, &CommandEditors::current_command_changed, this, &MirvantaApp::current_command_index_changed);
     connect(tool_row_, &ToolRow::about_requested, this, &MirvantaApp::on_about);
     connect(tool_row_, &ToolRow::stepped, &editors_, &CommandEditors::refresh);

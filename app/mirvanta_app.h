@@ -23,8 +23,8 @@ class MirvantaApp final : public QDialog, public AppServices
     Q_OBJECT
 
 public:
-    /// Loads the stored commands and starts to listen for selections; that a commands file can't be
-    /// used is told to the user once events are processed. Without editors no command has a page.
+    /// Loads the stored commands and starts to listen for selections; that a commands file can't be used is told to
+    /// the user once events are processed. Without editors no command has a page.
     explicit MirvantaApp(const MakeEditors& make_editors = {});
     ~MirvantaApp() override;
 

@@ -20,9 +20,6 @@ public:
     /// Waits for nobody.
     ~PathProbe() override;
 
-    /// Whether a selection was given whose paths have not answered yet.
-    bool is_running() const { return run_ != nullptr; }
-
     static void read_attributes(const QString& path);
 
 public slots:

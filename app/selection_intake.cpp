@@ -23,8 +23,15 @@ void SelectionIntake::reading_ended()
         QMetaObject::invokeMethod(this, &SelectionIntake::proceed, Qt::QueuedConnection);
 }
 
+void SelectionIntake::expect()
+{
+    is_expected_ = true;
+    stop_readers();
+}
+
 void SelectionIntake::take(int command_index, const QStringList& paths)
 {
+    is_expected_ = false;
     waiting_ = Selection{command_index, paths};
     proceed();
 }
@@ -33,12 +40,17 @@ void SelectionIntake::proceed()
 {
     if (!waiting_)
         return;
-    for (SelectionReader* reader : readers_)
-        if (reader->is_reading())
-            reader->stop_reading();
+    stop_readers();
     if (std::ranges::any_of(readers_, &SelectionReader::is_reading))
         return;
     const Selection selection = std::move(*waiting_);
     waiting_.reset();
     emit selection_ready(selection.command_index, selection.paths);
+}
+
+void SelectionIntake::stop_readers()
+{
+    for (SelectionReader* reader : readers_)
+        if (reader->is_reading())
+            reader->stop_reading();
 }

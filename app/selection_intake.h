@@ -21,7 +21,10 @@ public:
     void remove_reader(SelectionReader& reader) override;
     void reading_ended() override;
 
-    bool is_selection_waiting() const override { return waiting_.has_value(); }
+    bool is_selection_waiting() const override { return is_expected_ || waiting_.has_value(); }
+
+    /// A selection will come, or another one in its place: the readers at work can stop already.
+    void expect();
 
 public slots:
     /// A selection has come. It replaces, with its index, one that still waits.
@@ -41,6 +44,9 @@ private:
     /// Lets the waiting selection through, or asks those who still read to stop.
     void proceed();
 
+    void stop_readers();
+
+    bool is_expected_ = false;
     std::optional<Selection> waiting_;
     std::vector<SelectionReader*> readers_;
 };

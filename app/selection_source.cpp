@@ -28,4 +28,5 @@ void SelectionSource::end()
 void SelectionSource::take(int command_index, const QStringList& paths)
 {
     probe_.start(command_index, paths);
+    intake_.expect();
 }

@@ -19,11 +19,13 @@ public:
     /// From here on who sends a selection is refused, and starts the program anew.
     void end();
 
-    /// A selection has arrived: `ready` follows with it, or with the next one in its place.
+    /// A selection has arrived: `ready` follows with it, or with the next one in its place, unless a path never
+    /// answers. Whoever reads the one before is asked to stop.
     void take(int command_index, const QStringList& paths);
 
-    /// Whether a selection has been taken that is still on its way to `ready`. False within that signal.
-    bool is_selection_coming() const { return probe_.is_running() || intake_.is_selection_waiting(); }
+    /// Whether a selection has been taken that is still on its way to `ready`. False within that signal, unless a
+    /// newer one has arrived.
+    bool is_selection_coming() const { return intake_.is_selection_waiting(); }
 
     SelectionReaders& readers() { return intake_; }
 

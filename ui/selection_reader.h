@@ -29,7 +29,8 @@ public:
     /// A registered reader's run has ended. The selection changes later, not inside this call.
     virtual void reading_ended() = 0;
 
-    /// Whether a selection has come that can't be taken yet, for somebody still reads the old one.
+    /// Whether a selection has come that can't be taken yet: its paths have not answered, or somebody still reads the
+    /// old one.
     virtual bool is_selection_waiting() const = 0;
 
 protected:

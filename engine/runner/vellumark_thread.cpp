@@ -6,6 +6,12 @@
 #include <string>
 #include <utility>
 
+namespace {
+
+const std::string unknown_failure = "Unknown error";
+
+}
+
 VellumarkThread::VellumarkThread(VellumarkWatcher& watcher, std::shared_ptr<const MVItemsSet> items)
     : watcher_(watcher), items_(std::move(items))
 {}
@@ -88,17 +94,22 @@ std::u16string VellumarkThread::made_text()
     } catch (const std::exception& error) {
         failure = error.what();
     } catch (...) {
-        failure = "Unknown error";
+        failure = unknown_failure;
     }
     if (!is_cancelled())
-        tell_failure(to_utf16(failure));
+        tell_failure(failure);
     return {};
 }
 
-void VellumarkThread::tell_failure(const std::u16string& words)
+void VellumarkThread::tell_failure(const std::string& words)
 {
-    watcher_.status_report(words);
-    watcher_.failure_report(words, request_id_);
+    try {
+        const std::u16string text = to_utf16(words.empty() ? unknown_failure : words);
+        watcher_.status_report(text);
+        watcher_.failure_report(text, request_id_);
+    } catch (...) {
+        // Thrown by the watcher itself; the text that answers the request has to come all the same.
+    }
 }
 
 void VellumarkThread::deliver(std::u16string text)

@@ -55,7 +55,7 @@ private:
     void run();
     /// The request's text; empty after a failure, which the watcher has been told then.
     std::u16string made_text();
-    void tell_failure(const std::u16string& words);
+    void tell_failure(const std::string& words);
     void deliver(std::u16string text);
     void tell_idle();
 

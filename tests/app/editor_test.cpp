@@ -172,16 +172,37 @@ TEST_F(EditorTest, ASelectionEndsTheWaitForTheOldOne)
     }
 }
 
-TEST_F(EditorTest, OkMeansTheSelectionThatIsComing)
+TEST_F(EditorTest, OkMeansTheSelectionThatIsComingAndTheCommandThatShows)
+{
+    for (const int row : {-1, 0}) {
+        open_with({path_of("a.txt", "")});
+        app->menu_list().select(1);
+        EXPECT_TRUE(shows("a.txt"));
+        app->on_context_menu_selected(row, {path_of("b.txt", "")});
+        press("OK");
+        EXPECT_TRUE(app->isVisible());
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !app->is_selection_coming(); }, 60'000));
+        EXPECT_TRUE(row == 0 ? shows("00000000") : QTest::qWaitFor([&] { return !app->isVisible(); }, 60'000));
+        EXPECT_EQ(clipboard.text, row == 0 ? std::nullopt : std::optional<std::u16string>(u"b.txt"));
+        clipboard.text.reset();
+    }
+}
+
+TEST_F(EditorTest, NoOldTextShowsWhileASelectionComes)
 {
     open_with({path_of("a.txt", "")});
+    EXPECT_TRUE(shows("00000000"));
     app->menu_list().select(1);
-    EXPECT_TRUE(shows("a.txt"));
+    auto& generator = *app->current_editor()->findChild<PreviewGenerator*>();
+    while (generator.is_reading())
+        QTest::qSleep(1);
     app->on_context_menu_selected(-1, {path_of("b.txt", "")});
-    press("OK");
-    EXPECT_TRUE(app->isVisible());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !app->isVisible(); }, 60'000));
-    EXPECT_EQ(clipboard.text, u"b.txt");
+    app->current_editor()->refresh();
+    while (app->is_selection_coming()) {
+        EXPECT_FALSE(preview().isVisible());
+        QCoreApplication::processEvents();
+    }
+    EXPECT_TRUE(shows("b.txt"));
 }
 
 TEST_F(EditorTest, WaitsForTheTextThatIsStillMade)
@@ -197,9 +218,10 @@ TEST_F(EditorTest, WaitsForTheTextThatIsStillMade)
     press("OK");
     box = app->findChild<WaitForTextDlg*>();
     ASSERT_TRUE(box && box->isVisible());
-    app->menu_list().select(1); // its text is there at once
+    std::filesystem::resize_file(folder.host("endless"), 0);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !app->isVisible(); }, 60'000));
-    EXPECT_EQ(clipboard.text, u"endless");
+    ASSERT_TRUE(clipboard.text);
+    EXPECT_EQ(to_qstring(*clipboard.text), preview().toPlainText());
 }
 
 TEST_F(EditorTest, PagesFollowTheCommandAndTheSelection)

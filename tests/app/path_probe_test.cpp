@@ -17,7 +17,6 @@ protected:
     PathProbeTest()
     {
         QObject::connect(probe_.get(), &PathProbe::answered, [this](int index, const QStringList& paths) {
-            EXPECT_FALSE(probe_->is_running());
             answers_ += std::to_string(index) + ":" + paths.join(',').toStdString() + " ";
         });
     }
@@ -47,7 +46,6 @@ TEST_F(PathProbeTest, NewestSelectionIsToldOnceAllItsPathsAnswered)
     probe_->start(1, {"a", "b"});
     EXPECT_EQ(answers_, "") << "the window goes on first";
     probe_->start(2, {"broken/c"});
-    EXPECT_TRUE(probe_->is_running());
     EXPECT_TRUE(answers("2:broken/c "));
     probe_->start(-1, {});
     EXPECT_TRUE(answers("2:broken/c -1: "));

@@ -36,7 +36,6 @@ QString label_texts(const QWidget& widget)
     return texts.join('\n');
 }
 
-/// Counts resets; nothing else may be asked of it.
 TEST(NoCommandsWidget, SaysWhyAndOffersTheDefaults)
 {
     FakeApp app;

@@ -8,8 +8,6 @@
 
 namespace {
 
-constexpr char platform_choice[] = "QT_QPA_PLATFORM";
-
 platform::WindowSystem window_system()
 {
     const bool is_wayland = QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
@@ -23,12 +21,6 @@ bool is_ours_to_read(const QClipboard& clipboard)
     return clipboard.ownsClipboard() || window_system() == platform::WindowSystem::wayland;
 }
 
-}
-
-void SystemClipboard::prepare()
-{
-    if (qEnvironmentVariableIsEmpty(platform_choice) && platform::needs_x11_windows())
-        qputenv(platform_choice, "xcb;wayland");
 }
 
 SystemClipboard::SystemClipboard() : clipboard_(platform::make_clipboard(window_system())) {}

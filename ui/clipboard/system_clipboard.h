@@ -6,10 +6,6 @@
 class SystemClipboard final : public platform::Clipboard
 {
 public:
-    /// To be called before there is an application object: lets its windows be such that texts can be copied from
-    /// them, unless the user has chosen ($QT_QPA_PLATFORM).
-    static void prepare();
-
     SystemClipboard();
 
     bool open() override;

@@ -37,11 +37,11 @@ public:
     /// Shows or hides the editing pane.
     virtual void set_expanded(bool /*expanded*/) {}
 
-    /// A selection has arrived and will be taken once its paths answer.
-    virtual void selection_coming() {}
-
     /// What OK does with the command. True when the application may close at once.
     virtual bool run_current_command() { return true; }
+
+    /// A selection has arrived and will be taken once its paths answer.
+    virtual void selection_coming() {}
 
     /// Whether its commands can be duplicated.
     virtual bool allows_duplicate() const { return true; }

@@ -23,11 +23,12 @@ CommandMainWidgetBase* VellumarkController::create_main_widget(QWidget* parent)
 
 bool VellumarkController::set_current_command(const std::shared_ptr<MVCommandBase>& command)
 {
-    current_command_ = std::dynamic_pointer_cast<VellumarkCommand>(command);
-    if (!current_command_) {
+    // Whoever pressed OK meant the command before.
+    if (command != current_command_)
         stop_waiting();
+    current_command_ = std::dynamic_pointer_cast<VellumarkCommand>(command);
+    if (!current_command_)
         return false;
-    }
     show_command();
     emit current_command_changed();
     return true;
@@ -65,7 +66,7 @@ void VellumarkController::set_expanded(bool expanded)
 
 bool VellumarkController::run_current_command()
 {
-    if (!is_waiting())
+    if (!is_text_coming())
         return copy_text();
     if (!wait_dialog_)
         open_wait_dialog();
@@ -74,12 +75,12 @@ bool VellumarkController::run_current_command()
 
 void VellumarkController::selection_coming()
 {
-    // Whoever pressed OK meant the old selection.
+    // Whoever is waiting meant the selection before.
     stop_waiting();
-    page_->show_preview_updating();
+    on_preview_text_updating();
 }
 
-bool VellumarkController::is_waiting() const
+bool VellumarkController::is_text_coming() const
 {
     return generator_.is_updating() || app().is_selection_coming();
 }
@@ -96,6 +97,8 @@ void VellumarkController::open_wait_dialog()
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::finished, this, &VellumarkController::waiting_for_text_dlg_finished);
     connect(&generator_, &PreviewGenerator::progress_changed, dialog, &WaitForTextDlg::show_progress);
+    if (app().is_selection_coming())
+        dialog->show_progress(waiting_for_selection(), {});
     wait_dialog_ = dialog;
     dialog->open();
 }
@@ -117,15 +120,25 @@ void VellumarkController::update_after_curr_command_changed()
 void VellumarkController::on_preview_text_updating()
 {
     page_->show_preview_updating();
+    if (app().is_selection_coming())
+        page_->show_preview_progress(waiting_for_selection(), {});
+}
+
+QString VellumarkController::waiting_for_selection()
+{
+    return tr("Waiting for the selected files...");
 }
 
 void VellumarkController::on_preview_text_ready(const QString& text)
 {
+    // It is of the selection before; the refresh that comes with the next one brings another.
+    if (app().is_selection_coming())
+        return;
     if (generator_.failure().isEmpty())
         page_->set_preview_text(text);
     else
         page_->show_preview_failure(generator_.failure());
-    if (!wait_dialog_ || is_waiting())
+    if (!wait_dialog_)
         return;
     wait_dialog_->close();
     if (copy_text())

@@ -53,7 +53,8 @@ private:
     QPointer<WaitForTextDlg> wait_dialog_;
 
     void show_command();
-    bool is_waiting() const;
+    bool is_text_coming() const;
+    static QString waiting_for_selection();
     void stop_waiting();
     void open_wait_dialog();
     bool copy_text();

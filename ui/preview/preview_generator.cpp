@@ -115,7 +115,9 @@ void PreviewGenerator::text_report(std::u16string text, std::uint32_t request_id
 
 void PreviewGenerator::failure_report(std::u16string_view words, std::uint32_t request_id)
 {
-    failed_ = {.text = {}, .failure = to_qstring(words), .request_id = request_id};
+    // Words that need no memory first, for the lack of it may be the failure.
+    failed_ = {.text = {}, .failure = QStringLiteral("Out of memory"), .request_id = request_id};
+    failed_.failure = to_qstring(words);
 }
 
 void PreviewGenerator::take_delivery()

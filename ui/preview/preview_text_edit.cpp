@@ -19,6 +19,7 @@ constexpr double tab_stop_distance = 30.0;
 constexpr int least_screenful = 100;
 constexpr qsizetype step_pieces = 200, step_units = 16'384;
 constexpr qint64 slice_ms = 2;
+constexpr int most_layouts_ahead = 300'000;
 /// The first screenful is painted and what the user does is heard before the rest comes.
 constexpr int pause_before_rest_ms = 10;
 /// Of the bar at a fold, which is narrower than the document's margin.
@@ -58,7 +59,8 @@ void PreviewTextEdit::append_pieces(qsizetype pieces, qsizetype units)
     QTextBlock block = end.block();
     end.insertText(pieces_.next(pieces, units));
     // Each block makes its layout when it is first asked for it; a new width of the window would ask all at once.
-    for (; block.isValid(); block = block.next())
+    // What takes 320 bytes a line is not worth it for texts that nobody reads to the end.
+    for (; block.isValid() && block.blockNumber() < most_layouts_ahead; block = block.next())
         block.layout();
 }
 

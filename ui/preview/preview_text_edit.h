@@ -6,9 +6,9 @@
 #include <QTimer>
 
 /// Shows a text of any size and keeps the window alive meanwhile: the first screenful comes at once, the rest in
-/// slices of a few milliseconds. Where a very long line is folded, a bar stands at the end and at the begin of what
-/// was parted. What is selected is copied as it stands in the text, also when the text is not all there yet. Main
-/// thread only.
+/// slices of a few milliseconds. Where a very long line is folded, a bar stands at the end of one part and at the
+/// beginning of the next. What is selected is copied as it stands in the text, also when the text is not all there
+/// yet. Main thread only.
 class PreviewTextEdit final : public QPlainTextEdit
 {
     Q_OBJECT
