@@ -69,9 +69,6 @@ class Intake(ProgramTest):
 
 
 class Window(ProgramTest):
-    def show_list(self, name):
-        self.program.click(accessibility.find(self.program.root, "page tab", name))
-
     def divider(self):
         return accessibility.find(self.program.root, name="Divider")
 
@@ -84,10 +81,10 @@ class Window(ProgramTest):
         self.program.start()
         self.desktop.do("xdotool", "windowsize", self.program.window, "900", "700")
         self.wait_for((900, 700), lambda: self.desktop.geometry(self.program.window)[2:])
-        self.show_list("Commands Library")
+        self.program.show_list("Commands Library")
         self.program.click(self.program.cell(2, name="Commands Library"))
         self.wait_for([2], self.program.selected, name="Commands Library")
-        self.show_list("Context Menu Commands")
+        self.program.show_list("Context Menu Commands")
         x, y = self.program.middle(self.divider())
         self.desktop.drag((x, y), (x + 80, y))
         state = self.state()
@@ -97,7 +94,7 @@ class Window(ProgramTest):
 
         self.program.start()
         self.wait_for(state, self.state)
-        self.show_list("Commands Library")
+        self.program.show_list("Commands Library")
         self.wait_for([2], self.program.selected, name="Commands Library")
 
 

@@ -2,7 +2,6 @@
 
 import unittest
 
-import accessibility
 from desktop import Desktop
 from program import UNSAVED, ProgramTest, shipped_commands
 
@@ -20,7 +19,7 @@ class Start(ProgramTest):
         shipped = shipped_commands()
         self.wait_for_rows(*(command["name"] for command in shipped["menuCommands"]))
         self.assertEqual((self.program.selected(), self.program.is_save_shown()), ([0], False))
-        self.program.click(accessibility.find(self.program.root, "page tab", "Commands Library"))
+        self.program.show_list("Commands Library")
         self.wait_for_rows(*(command["name"] for command in shipped["commandsLibrary"]), name="Commands Library")
         self.program.press("Cancel")
         self.check_end()
@@ -86,7 +85,7 @@ class Edits(ProgramTest):
         self.assertEqual(self.program.saved_names(), (["C", "D", ""], ["X", "A"]))
         self.press_keys("ctrl+z", "ctrl+z", "ctrl+z")
         self.wait_for_rows("A", "B", "C", "D", MORE)
-        self.program.click(accessibility.find(self.program.root, "page tab", "Commands Library"))
+        self.program.show_list("Commands Library")
         self.wait_for_rows("X", name="Commands Library")
 
 

@@ -176,6 +176,9 @@ class Program:
     def click(self, node, button=1):
         self.desktop.click(*self.middle(node), button)
 
+    def show_list(self, name):
+        self.click(accessibility.find(self.root, "page tab", name))
+
     def press(self, name):
         accessibility.press(accessibility.find(self.root, "push button", name))
 
