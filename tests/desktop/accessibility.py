@@ -10,15 +10,6 @@ from desktop import wait_until
 GONE = (LookupError, GLib.GError)
 
 
-def application(name):
-    """The root of the running program of this name."""
-
-    def search():
-        return next((child for child in pyatspi.Registry.getDesktop(0) if child and child.name == name), None)
-
-    return wait_until(search, f"the accessible program '{name}'")
-
-
 def walk(node):
     """The node and all below it, a parent before its children. What goes away meanwhile is left out."""
     yield node

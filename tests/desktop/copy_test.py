@@ -3,12 +3,11 @@
 import json
 import os
 import shutil
-import subprocess
 import unittest
 
 import accessibility
 from big_file import BigFile
-from desktop import HANG, Desktop, wait_until
+from desktop import Desktop, wait_until
 from program import FOLDER, KEEPER, TITLE, ProgramTest, shipped_commands
 
 SAMPLES = os.environ["SAMPLES"]
@@ -33,9 +32,7 @@ class Copy(ProgramTest):
         self.commands = list(kinds)
 
     def text_of(self, command):
-        """What the tool for terminals makes of the same command and paths."""
-        call = [FOLDER + "/vellumark-text", "--command", command, "--", *self.paths]
-        return subprocess.run(call, env=self.program.environment, capture_output=True, timeout=HANG, check=True).stdout
+        return self.program.text_of(command, *self.paths)
 
     def shown(self):
         return accessibility.text_of(accessibility.find(self.program.root, "text", "Clipboard Preview"))

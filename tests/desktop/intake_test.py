@@ -1,9 +1,6 @@
 """Selections that a file manager hands to the application, and what may go wrong between the two."""
 
-import copy
-import json
 import os
-import signal
 import unittest
 
 import accessibility
@@ -28,18 +25,14 @@ class Intake(ProgramTest):
         with open(self.file, "w", encoding="utf-8") as file:
             file.write("x")
 
-    def message(self, index, path):
-        """As the tool writes it."""
-        return json.dumps({"commandIndex": index, "paths": ["C:" + path.replace("/", "\\")]}).encode()
-
     def select(self, *arguments):
         self.assertEqual(self.program.select(*arguments), (0, ""))
 
-    def wait_for_selection(self, row, path, program=None):
+    def wait_for_selection(self, row, path):
         """The current row, and the marks that this selected path gives the rows."""
-        program = program or self.program
         marked = FOLDER_COMMAND + (NOT_SHOWN if path == self.file else "")
-        self.wait_for([[row], "A", "B", "C", marked, "More Commands..."], lambda: [program.selected(), *program.rows()])
+        self.wait_for([[row], "A", "B", "C", marked, "More Commands..."],
+                      lambda: [self.program.selected(), *self.program.rows()])
 
     def test_tool_starts_the_application(self):
         self.select("--index", "2", self.file)
@@ -61,29 +54,6 @@ class Intake(ProgramTest):
         self.desktop.wait_for_window(TITLE)
         self.wait_for_selection(0, self.file)
 
-    def test_second_instance(self):
-        self.program.start()
-        second = copy.copy(self.program)
-        second.start()
-        self.select("--index", "1", self.file)
-        self.wait_for_selection(1, self.file)
-        self.wait_for_selection(0, None, second)
-        accessibility.press(accessibility.find(second.root, "push button", "Cancel"))
-        status, errors = second.wait_for_end()
-        self.assertEqual(status, 0)
-        self.assertIn("NamedPipeServer error: CreateNamedPipe() failed; Error=0x", errors)
-        self.select("--index", "2", self.folder)
-        self.wait_for_selection(2, self.folder)
-
-    def test_socket_left_by_a_crash(self):
-        self.program.start()
-        os.kill(self.program.process.pid, signal.SIGKILL)
-        self.desktop.wait_for_no_window(TITLE)
-        self.assertTrue(os.path.exists(self.program.pipe))
-        self.program.start()
-        self.select("--index", "1", self.file)
-        self.wait_for_selection(1, self.file)
-
     def test_messages_that_are_none(self):
         self.program.start()
         for message in (b"", b"\0" * 10000, b"\xff\xfe{", b"[1]", b'{"paths": ["C:\\\\"', b'{"commandIndex": 1}',
@@ -97,20 +67,8 @@ class Intake(ProgramTest):
         self.program.press("Cancel")
         self.check_end()
 
-    def test_burst(self):
-        self.program.start()
-        for number in range(199):
-            self.program.send(self.message(number % 3, self.folder))
-        self.program.send(self.message(3, self.file))
-        self.wait_for_selection(3, self.file)
-        self.program.press("Cancel")
-        self.check_end()
-
 
 class Window(ProgramTest):
-    def show_list(self, name):
-        self.program.click(accessibility.find(self.program.root, "page tab", name))
-
     def divider(self):
         return accessibility.find(self.program.root, name="Divider")
 
@@ -123,10 +81,10 @@ class Window(ProgramTest):
         self.program.start()
         self.desktop.do("xdotool", "windowsize", self.program.window, "900", "700")
         self.wait_for((900, 700), lambda: self.desktop.geometry(self.program.window)[2:])
-        self.show_list("Commands Library")
+        self.program.show_list("Commands Library")
         self.program.click(self.program.cell(2, name="Commands Library"))
         self.wait_for([2], self.program.selected, name="Commands Library")
-        self.show_list("Context Menu Commands")
+        self.program.show_list("Context Menu Commands")
         x, y = self.program.middle(self.divider())
         self.desktop.drag((x, y), (x + 80, y))
         state = self.state()
@@ -136,7 +94,7 @@ class Window(ProgramTest):
 
         self.program.start()
         self.wait_for(state, self.state)
-        self.show_list("Commands Library")
+        self.program.show_list("Commands Library")
         self.wait_for([2], self.program.selected, name="Commands Library")
 
 

@@ -1,6 +1,7 @@
 """How the windows look: pictures for the eye, kept with the build, and what of them can be counted."""
 
 import os
+import shutil
 import unittest
 
 import accessibility
@@ -13,27 +14,7 @@ SAMPLES = os.environ["SAMPLES"]
 
 # A desktop with dark colours, of a kind whose settings file the toolkit reads without a plugin.
 DARK_VARIABLES = {"QT_QPA_PLATFORMTHEME": "kde", "XDG_CURRENT_DESKTOP": "KDE", "KDE_SESSION_VERSION": "5"}
-DARK_SETTINGS = """[KDE]
-widgetStyle=Fusion
-[Colors:Window]
-BackgroundNormal=42,46,50
-ForegroundNormal=252,252,252
-[Colors:View]
-BackgroundNormal=27,30,32
-BackgroundAlternate=35,38,41
-ForegroundNormal=252,252,252
-ForegroundLink=29,153,243
-ForegroundVisited=155,89,182
-[Colors:Button]
-BackgroundNormal=49,54,59
-ForegroundNormal=252,252,252
-[Colors:Selection]
-BackgroundNormal=29,99,140
-ForegroundNormal=252,252,252
-[Colors:Tooltip]
-BackgroundNormal=49,54,59
-ForegroundNormal=252,252,252
-"""
+DARK_SETTINGS = os.path.dirname(__file__) + "/dark.kdeglobals"
 
 
 def setUpModule():
@@ -45,8 +26,7 @@ def setUpModule():
 class Look(ProgramTest):
     def start(self, is_dark=False, **environment):
         if is_dark:
-            with open(self.program.home + "/kdeglobals", "w", encoding="utf-8") as file:
-                file.write(DARK_SETTINGS)
+            shutil.copy(DARK_SETTINGS, self.program.home + "/kdeglobals")
         self.program.start(**environment, **(DARK_VARIABLES if is_dark else {}))
 
     def take(self, name, window=None):

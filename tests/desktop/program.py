@@ -130,6 +130,11 @@ class Program:
         )
         return done.returncode, done.stderr.decode()
 
+    def text_of(self, command, *paths):
+        """The bytes that the tool for terminals makes of a command and paths."""
+        call = [FOLDER + "/vellumark-text", "--command", command, "--", *paths]
+        return subprocess.run(call, env=self.environment, capture_output=True, timeout=HANG, check=True).stdout
+
     def send(self, message):
         """Bytes to the socket as one message."""
         with socket.socket(socket.AF_UNIX) as client:
@@ -170,6 +175,9 @@ class Program:
 
     def click(self, node, button=1):
         self.desktop.click(*self.middle(node), button)
+
+    def show_list(self, name):
+        self.click(accessibility.find(self.root, "page tab", name))
 
     def press(self, name):
         accessibility.press(accessibility.find(self.root, "push button", name))

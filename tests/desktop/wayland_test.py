@@ -84,9 +84,7 @@ class Window(ProgramTest):
     def setUp(self):
         super().setUp()
         self.program.write("VKCmds.json", json.dumps(COMMANDS).encode())
-        call = [FOLDER + "/vellumark-text", "--command", "Sum", "--", FILE]
-        self.text = subprocess.run(call, env=self.program.environment, capture_output=True, timeout=HANG,
-                                   check=True).stdout
+        self.text = self.program.text_of("Sum", FILE)
 
     def select_and_press_ok(self):
         self.assertEqual(self.program.select(FILE), (0, ""))

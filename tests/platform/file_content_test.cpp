@@ -1,5 +1,6 @@
 #include "platform/file_reader.h"
 #include "platform/files.h"
+#include "raw_content.h"
 #include "support/temp_folder.h"
 
 #include <gtest/gtest.h>
@@ -11,18 +12,10 @@
 #include <array>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 #include <thread>
 #include <vector>
 
 namespace {
-
-std::string content_of(const std::string& host_path)
-{
-    std::ostringstream text;
-    text << std::ifstream(host_path, std::ios::binary).rdbuf();
-    return text.str();
-}
 
 TEST(FileContent, ReadsWholeFilesAndPipes)
 {

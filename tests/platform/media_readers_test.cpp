@@ -2,6 +2,7 @@
 #include "platform/host/program_file.h"
 #include "platform/host/properties/media_readers.h"
 #include "platform/properties.h"
+#include "raw_content.h"
 #include "support/temp_folder.h"
 
 #include <gtest/gtest.h>
@@ -143,9 +144,7 @@ TEST(MediaReaders, LostProgramsAreReplaced)
 TEST(MediaReaders, FilmThatFillsMemory)
 {
     const TempFolder folder;
-    std::ostringstream content;
-    content << std::ifstream(sample, std::ios::binary).rdbuf();
-    std::string film = content.str();
+    std::string film = content_of(sample);
     const std::size_t second = film.find("elst", film.find("elst") + 1);
     ASSERT_NE(second, film.npos);
     film.replace(second + 8, 4, "\x7F\xFF\xFF\xFF");

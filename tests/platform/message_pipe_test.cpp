@@ -42,6 +42,11 @@ protected:
         return create_message_pipe("pipe", {silence, message}, error_);
     }
 
+    static std::future<std::error_code> sending(std::string message)
+    {
+        return std::async(std::launch::async, [=] { return send_message("pipe", message, patience); });
+    }
+
     /// What is read with a buffer of `size` bytes: the pieces' lengths, and how it ended.
     std::string pieces(platform::MessagePipe& pipe, std::size_t size)
     {
@@ -62,7 +67,7 @@ protected:
         const auto pipe = create();
         if (!pipe)
             return error_.message();
-        const auto sent = std::async(std::launch::async, [] { return send_message("pipe", "x", patience); });
+        const auto sent = sending("x");
         EXPECT_FALSE(pipe->connect());
         const std::string read = pieces(*pipe, 8);
         pipe->disconnect();
@@ -83,8 +88,7 @@ TEST_F(MessagePipeTest, ReadsUpToTheEndOfEachMessage)
     const auto pipe = create();
     for (const auto& [size, expected] : std::initializer_list<std::pair<std::size_t, const char*>>{
              {0, "0 end"}, {7, "7 end"}, {8, "8 end"}, {9, "8 1 end"}, {16, "8 8 end"}}) {
-        auto sent =
-            std::async(std::launch::async, [&] { return send_message("pipe", std::string(size, 'x'), patience); });
+        auto sent = sending(std::string(size, 'x'));
         ASSERT_FALSE(pipe->connect());
         EXPECT_EQ(pieces(*pipe, 8), expected);
         pipe->disconnect();
@@ -138,14 +142,20 @@ TEST_F(MessagePipeTest, MessageHasATimeInAll)
     close(client);
 }
 
-TEST_F(MessagePipeTest, RefusedMessageIsAnErrorOfTheSender)
+TEST_F(MessagePipeTest, RefusedOrDroppedMessageIsAnErrorOfTheSender)
 {
     const auto pipe = create();
-    auto sent = std::async(std::launch::async, [] { return send_message("pipe", "x", patience); });
+    auto refused = sending("x");
     ASSERT_FALSE(pipe->connect());
     EXPECT_EQ(pieces(*pipe, 8), "1 end");
     pipe->refuse();
-    EXPECT_EQ(sent.get(), std::errc::connection_reset);
+    EXPECT_EQ(refused.get(), std::errc::connection_reset);
+
+    auto dropped = sending(std::string(8 << 20, 'x'));
+    ASSERT_FALSE(pipe->connect());
+    pipe->disconnect();
+    const std::error_code error = dropped.get();
+    EXPECT_TRUE(error == std::errc::broken_pipe || error == std::errc::connection_reset) << error;
 }
 
 TEST_F(MessagePipeTest, ClosedPipeGivesItsNameBack)
@@ -163,7 +173,7 @@ TEST_F(MessagePipeTest, ClosedPipeGivesItsNameBack)
 TEST_F(MessagePipeTest, ClientsThatWaitAtTheCloseAreNotTaken)
 {
     auto pipe = create();
-    auto sent = std::async(std::launch::async, [] { return send_message("pipe", "x", patience); });
+    auto sent = sending("x");
     std::this_thread::sleep_for(20ms);
     pipe->close();
     EXPECT_EQ(pipe->connect(), std::errc::operation_canceled);
@@ -187,17 +197,6 @@ TEST_F(MessagePipeTest, FullTableOfFilesKeepsTheClientsWaiting)
     close(client);
 }
 #endif
-
-TEST_F(MessagePipeTest, DroppedMessageIsAnErrorOfTheSender)
-{
-    const auto pipe = create();
-    auto sent =
-        std::async(std::launch::async, [] { return send_message("pipe", std::string(8 << 20, 'x'), patience); });
-    ASSERT_FALSE(pipe->connect());
-    pipe->disconnect();
-    const std::error_code error = sent.get();
-    EXPECT_TRUE(error == std::errc::broken_pipe || error == std::errc::connection_reset) << error;
-}
 
 TEST_F(MessagePipeTest, NameHasOneOwner)
 {
@@ -310,7 +309,7 @@ TEST_F(MessagePipeTest, OtherUsersAreDropped)
     int status = 0;
     ASSERT_EQ(waitpid(child, &status, 0), child);
     EXPECT_EQ(status, 0);
-    auto sent = std::async(std::launch::async, [] { return send_message("pipe", "own", patience); });
+    auto sent = sending("own");
     EXPECT_FALSE(connected.get());
     EXPECT_EQ(pieces(*pipe, 8), "3 end");
     pipe->disconnect();

@@ -1,6 +1,7 @@
 #include "child_processes.h"
 #include "platform/host/properties/xml_fields.h"
 #include "platform/properties.h"
+#include "raw_content.h"
 #include "support/temp_folder.h"
 
 #include <gtest/gtest.h>
@@ -8,9 +9,7 @@
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
-#include <fstream>
 #include <random>
-#include <sstream>
 
 using platform::FileProperties;
 
@@ -23,13 +22,6 @@ extern "C" const char* __asan_default_options()
 #endif
 
 namespace {
-
-std::string content_of(const std::string& host_path)
-{
-    std::ostringstream out;
-    out << std::ifstream(host_path, std::ios::binary).rdbuf();
-    return out.str();
-}
 
 /// Some bytes changed, or set to extremes, or a piece cut out, doubled or the end cut off.
 std::string mutated(std::string content, std::mt19937& random)
@@ -92,15 +84,6 @@ TEST(Properties, BrokenFilesAreReadQuicklyAndSilently)
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
     EXPECT_EQ(slow, "");
     EXPECT_LT(peak_megabytes(), 512);
-}
-
-std::string box(const std::string& type, const std::string& content)
-{
-    const auto size = static_cast<unsigned>(content.size() + 8);
-    std::string result;
-    for (int shift = 24; shift >= 0; shift -= 8)
-        result += static_cast<char>(size >> shift);
-    return result + type + content;
 }
 
 /// Items that have the most pieces, each told in no bytes.

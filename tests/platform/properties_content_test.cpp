@@ -1,5 +1,5 @@
-#include "platform/paths.h"
-#include "platform/properties.h"
+#include "property_text.h"
+#include "raw_content.h"
 #include "support/temp_folder.h"
 
 #include <gtest/gtest.h>
@@ -21,10 +21,7 @@ const std::string song = SAMPLES_FOLDER "/Sounds/Morning Bell.mp3", other_song =
 /// Each time by a reader of its own, as one part of a text after another does.
 std::string shown(const std::u16string& path, std::u16string_view name)
 {
-    const auto text = FileProperties(path).display_text(u"System." + std::u16string(name));
-    std::string bytes = text ? "" : "-";
-    platform::append_host_name(bytes, text.value_or(u""));
-    return bytes;
+    return host_text(FileProperties(path).display_text(u"System." + std::u16string(name)).value_or(u"-"));
 }
 
 class OpenCounter
@@ -90,14 +87,6 @@ TEST(PropertyContent, IsReadAnewWhenThePathLeadsElsewhere)
               "Morning Bell, 44.1 kHz; -, 8 kHz");
 }
 
-std::string number(std::uint64_t value, int bytes, bool is_big = false)
-{
-    std::string result;
-    for (int i = 0; i < bytes; ++i)
-        result.insert(is_big ? result.begin() : result.end(), static_cast<char>(i < 8 ? value >> (8 * i) : 0));
-    return result;
-}
-
 /// An entry of one short, long or fraction; the value of a fraction is its place.
 std::string entry(unsigned tag, unsigned type, unsigned value)
 {
@@ -113,11 +102,6 @@ std::string tiff(const std::string& magic)
            entry(0x11A, 5, fraction) + entry(0x116, 3, 30) + entry(0x117, 4, 1) + entry(0x128, 3, 3) +
            entry(0x8769, 4, exif) + number(0, 4) + number(2, 2) + entry(0xA002, 4, 4032) + entry(0xA003, 4, 3024) +
            number(0, 4) + number(118, 4) + number(1, 4);
-}
-
-std::string box(const std::string& type, const std::string& content)
-{
-    return number(content.size() + 8, 4, true) + type + content;
 }
 
 std::string heif()

@@ -1,5 +1,4 @@
-#include "platform/paths.h"
-#include "platform/properties.h"
+#include "property_text.h"
 
 #include <gtest/gtest.h>
 
@@ -20,9 +19,7 @@ std::string shown(const std::optional<Value>& value)
 
 std::string shown(const std::optional<std::u16string>& value)
 {
-    std::string bytes = value ? "" : "-";
-    platform::append_host_name(bytes, value.value_or(u""));
-    return bytes;
+    return host_text(value.value_or(u"-"));
 }
 
 struct Row {

@@ -70,9 +70,6 @@ TEST_F(CommandsFileRead, OneBadCommandSpoilsTheFile)
         std::string element, error;
     };
 
-    const auto parts = [](const std::string& part) {
-        return R"({"commandType":"Vellumark","name":"A","separator":"","fileParts":)" + part + "}";
-    };
     const json::value number = 1;
     const std::string not_string = error_of([&] { static_cast<void>(number.as_string()); });
     const std::string not_bool = error_of([&] { static_cast<void>(number.as_bool()); });
@@ -82,22 +79,13 @@ TEST_F(CommandsFileRead, OneBadCommandSpoilsTheFile)
         {R"({})", "Missing key in JSON: commandType"},
         {R"({"commandType":"MultiRename"})", "Missing key in JSON: name"},
         {R"({"commandType":"Vellumark","name":""})", "Missing key in JSON: separator"},
-        {R"({"commandType":"Vellumark","name":"","separator":""})", "Missing key in JSON: fileParts"},
-        {parts("[{}]"), "Missing key in JSON: item-type"},
-        {parts("[1]"), "JSON value not an object"},
-        {parts("{}"), "JSON value not an array"},
-        {parts(R"([{"item-type":"auto-number","start":-1,"step":1}])"), not_exact},
-        {parts(R"([{"item-type":"auto-number","start":1.5,"step":1}])"), not_exact},
-        {parts(R"([{"item-type":"auto-number","start":18446744073709551616,"step":1}])"), not_exact},
+        {R"({"commandType":"Vellumark","name":"A","separator":"","fileParts":[{}]})",
+         "Missing key in JSON: item-type"},
         {R"({"commandType":1,"name":""})", not_string},
         {R"({"commandType":"Configure","name":null})", not_string},
         {R"({"commandType":"Configure","name":"","showInMenu":1})", not_bool},
-        {command_json("A", R"(,"folderParts":null)"), "JSON value not an array"},
-        {command_json("A", R"(,"sortOrder":0)"), not_string},
-        {command_json("A", R"(,"maxFolderDepth":2147483648)"), not_exact},
         {command_json("A", R"(,"maxFolderDepth":1e99999)"), not_exact},
         {command_json("A", R"(,"maxFolderDepth":"1")"), not_number},
-        {command_json("A", R"(,"fileFilter":{"filterPattern":[]})"), not_string},
     };
     for (const Row& row : rows) {
         const std::string in_library = R"({"menuCommands":[],"extensionsPresets":[],"commandsLibrary":[)";

@@ -37,6 +37,7 @@ TEST_F(LastCommand, FailedWriteIsSilent)
 {
     folder.make_folder(last_file);
     EXPECT_EQ(error_of([] { write_last_command(VellumarkCommand(u"A")); }), "no error");
+    EXPECT_THROW(read_last_command(), JsonFileReaderException);
     const TempFolder other;
     other.write("file");
     const ScopedVariable user("XDG_CONFIG_HOME", other.host("file"));

@@ -21,6 +21,9 @@ SHA256 = {"item-type": "checksum", "checksum-type": "sha256"}
 TAB = {"item-type": "text", "text": "\t"}
 FOLDER_FILES = {"item-type": "folder-files", "startText": ">"}
 
+ODD_NAMES = [b"new\nline", b"'quoted\" $x", b"-dash", b"--list", b"-", b" ", b"back\\slash", b"C:", b"c:x", b"file."]
+ODD_NAMES += [b"n" * 255, "\u00e9\u6f22\U0001F600".encode(), b"\xff\xc3(", b"\xed\xa0\x80", b"\x01\x7f"]
+
 
 def command(name, *parts, **keys):
     return {"commandType": "Vellumark", "name": name, "separator": "\n", "fileParts": parts} | keys
