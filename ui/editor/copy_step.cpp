@@ -25,6 +25,7 @@ void keep_as_last_run(const VellumarkCommand& command)
 }
 
 // By value: a selection that comes during the comparison changes the caller's text and command.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 bool CopyStep::run(std::shared_ptr<const VellumarkCommand> command, const MVItemsSet& selection, QString text)
 {
     // Without a window the program would end between a comparison and what follows it.
