@@ -4,7 +4,8 @@
 #include <QTimer>
 
 /// Waits for the modal boxes and dialogs that the next calls open, keeps what they say and presses a button in each:
-/// `buttons` in turn, the last one again and again. For "" the box is closed as by its frame.
+/// `buttons` in turn, the last one again and again. For "" the box is closed as by its frame. The box that waits for
+/// a text goes by itself.
 class BoxAnswer
 {
 public:

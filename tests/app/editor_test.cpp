@@ -1,17 +1,26 @@
 #include "app/editors.h"
 #include "app_test.h"
 #include "box_answer.h"
+#include "debug_log.h"
 #include "store/last_command.h"
 #include "support/fake_clipboard.h"
-#include "ui/editor/builtin_commands_main_widget.h"
+#include "support/visible_labels.h"
+#include "ui/editor/command_main_widget_base.h"
 #include "ui/editor/vellumark_controller.h"
 #include "ui/preview/wait_for_text_dlg.h"
 #include "ui/text.h"
+#include "ui/widgets/disclosure_header.h"
 
 #include <QApplication>
-#include <QLabel>
 #include <QPlainTextEdit>
+#include <QPointer>
+#include <QScrollArea>
+#include <QSignalSpy>
+#include <QSplitter>
 #include <QTest>
+#include <QTimer>
+
+#include <functional>
 
 namespace {
 
@@ -42,9 +51,21 @@ protected:
 
     QPlainTextEdit& preview() const { return *app->findChild<QPlainTextEdit*>(); }
 
+    static bool becomes(const std::function<bool()>& condition) { return QTest::qWaitFor(condition, 60'000); }
+
     bool shows(const QString& text) const
     {
-        return QTest::qWaitFor([&] { return preview().isVisible() && preview().toPlainText() == text; }, 60'000);
+        return becomes([&] { return preview().isVisible() && preview().toPlainText() == text; });
+    }
+
+    VellumarkController& editor() const { return dynamic_cast<VellumarkController&>(*app->current_editor()); }
+
+    WaitForTextDlg* open_wait_dialog() const
+    {
+        press("OK");
+        auto* dialog = app->findChild<WaitForTextDlg*>();
+        EXPECT_TRUE(dialog && dialog->isVisible());
+        return dialog;
     }
 
     FakeClipboard clipboard;
@@ -64,6 +85,18 @@ TEST_F(EditorTest, ShowsTheTextAndCopiesIt)
     EXPECT_EQ(clipboard.calls, "oesc");
     ASSERT_TRUE(read_last_command());
     EXPECT_EQ(read_last_command()->name(), u"Names");
+}
+
+TEST_F(EditorTest, ClosesThoughTheCommandCantBeKept)
+{
+    open_with({path_of("a.txt", "")});
+    EXPECT_TRUE(shows("00000000"));
+    const ScopedVariable nowhere("XDG_CONFIG_HOME", folder.host("a.txt"));
+    const DebugLog log;
+    press("OK");
+    EXPECT_TRUE(DebugLog::text().starts_with("The last command can't be kept:")) << DebugLog::text();
+    EXPECT_FALSE(app->isVisible());
+    EXPECT_EQ(clipboard.text, u"00000000");
 }
 
 TEST_F(EditorTest, TellsWhatFailedAndStays)
@@ -106,6 +139,7 @@ TEST_F(EditorTest, ComparesOneChecksumWithTheClipboard)
         EXPECT_TRUE(was_hidden);
         EXPECT_FALSE(app->isVisible());
         EXPECT_EQ(clipboard.text, copied);
+        EXPECT_EQ(read_last_command() != nullptr, answer == std::string_view("OK"));
     }
     clipboard.text = u"0xCBF43926";
     clipboard.can_set = false;
@@ -124,7 +158,7 @@ TEST_F(EditorTest, CopiesWhatWasComparedThoughASelectionComes)
     QTimer::singleShot(0, app.get(), [&] {
         ASSERT_TRUE(QApplication::activeModalWidget());
         app->on_context_menu_selected(1, {path_of("b.txt", "other")});
-        EXPECT_TRUE(QTest::qWaitFor([&] { return preview().toPlainText() == "b.txt"; }, 60'000));
+        EXPECT_TRUE(becomes([&] { return preview().toPlainText() == "b.txt"; }));
         qobject_cast<QDialog*>(QApplication::activeModalWidget())->accept();
     });
     press("OK");
@@ -160,12 +194,10 @@ TEST_F(EditorTest, ASelectionEndsTheWaitForTheOldOne)
 {
     for (const int row : {2, 1, -1}) {
         open_with({to_qstring(folder.write_endless("endless"))});
-        press("OK");
-        auto* box = app->findChild<WaitForTextDlg*>();
-        ASSERT_TRUE(box && box->isVisible());
+        const WaitForTextDlg* box = open_wait_dialog();
         app->on_context_menu_selected(row, {path_of("a.txt", "")});
         EXPECT_FALSE(box->isVisible());
-        EXPECT_TRUE(QTest::qWaitFor([&] { return !app->is_selection_coming(); }, 60'000));
+        EXPECT_TRUE(becomes([&] { return !app->is_selection_coming(); }));
         EXPECT_TRUE(row == 2 || shows(row == 1 ? "a.txt" : "00000000"));
         EXPECT_TRUE(app->isVisible());
         EXPECT_EQ(clipboard.calls, "");
@@ -174,55 +206,107 @@ TEST_F(EditorTest, ASelectionEndsTheWaitForTheOldOne)
 
 TEST_F(EditorTest, OkMeansTheSelectionThatIsComing)
 {
-    open_with({path_of("a.txt", "")});
-    app->menu_list().select(1);
-    EXPECT_TRUE(shows("a.txt"));
-    app->on_context_menu_selected(-1, {path_of("b.txt", "")});
-    press("OK");
-    EXPECT_TRUE(app->isVisible());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !app->isVisible(); }, 60'000));
-    EXPECT_EQ(clipboard.text, u"b.txt");
+    struct Case {
+        int row;
+        bool can_open;
+        const char* answer;
+        std::u16string_view clipboard;
+        bool closes;
+    };
+
+    for (const Case& c : {Case{1, true, "", u"b.txt", true}, Case{0, true, "OK", u"cbf43926", true},
+                          Case{0, true, "Cancel", u"0xCBF43926", true}, Case{1, false, "OK", u"0xCBF43926", false}}) {
+        clipboard.text = u"0xCBF43926";
+        clipboard.can_open = c.can_open;
+        open_with({path_of("a.txt", "")});
+        app->menu_list().select(c.row);
+        EXPECT_TRUE(shows(c.row == 1 ? "a.txt" : "00000000"));
+        app->on_context_menu_selected(-1, {path_of("b.txt", "123456789")});
+        const BoxAnswer box({c.answer});
+        const QPointer<WaitForTextDlg> waits = open_wait_dialog();
+        EXPECT_TRUE(becomes([&] { return !waits && app->isVisible() != c.closes; }));
+        EXPECT_EQ(box.seen().empty(), std::string_view(c.answer).empty());
+        EXPECT_EQ(clipboard.text, c.clipboard);
+    }
 }
 
 TEST_F(EditorTest, WaitsForTheTextThatIsStillMade)
 {
     open_with({to_qstring(folder.write_endless("endless"))});
-    press("OK");
-    auto* box = app->findChild<WaitForTextDlg*>();
-    ASSERT_TRUE(box && box->isVisible());
-    box->reject();
+    open_wait_dialog()->reject();
     EXPECT_TRUE(app->isVisible());
     EXPECT_EQ(clipboard.calls, "");
     QTest::qWait(1); // the box goes
-    press("OK");
-    box = app->findChild<WaitForTextDlg*>();
-    ASSERT_TRUE(box && box->isVisible());
+    const WaitForTextDlg* box = open_wait_dialog();
+    const auto tells_progress = [](const QWidget* widget) {
+        const std::string labels = visible_labels(*widget);
+        return labels.find("|Computing checksums...|C:\\") != labels.npos && labels.ends_with("endless");
+    };
+    EXPECT_TRUE(becomes([&] { return tells_progress(box) && tells_progress(editor().main_widget()); }));
     app->menu_list().select(1); // its text is there at once
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !app->isVisible(); }, 60'000));
+    EXPECT_TRUE(becomes([&] { return !app->isVisible(); }));
     EXPECT_EQ(clipboard.text, u"endless");
 }
 
-TEST_F(EditorTest, PagesFollowTheCommandAndTheSelection)
+TEST_F(EditorTest, ABuiltinCommandEndsTheWorkOfTheOther)
 {
-    open_with({path_of("a.txt", "")});
+    open_with({to_qstring(folder.write_endless("endless"))});
+    VellumarkController& other = editor();
     app->menu_list().select(2);
-    QStringList labels;
-    for (const QLabel* label : app->findChild<BuiltinCommandsMainWidget*>()->findChildren<QLabel*>())
-        labels += label->isVisible() ? label->text() : "hidden";
-    EXPECT_TRUE(labels.join('|').startsWith(
-        "<h2>File Action Command</h2>|hidden|<h3>Copy Filename and Delete</h3><p>Copies the name"));
-    EXPECT_TRUE(labels.back().contains("<i>Paste Filename</i> on the replacement file.</p><p><i>"));
+    const QSignalSpy changes(&other, &CommandControllerBase::current_command_changed);
+    other.refresh();
+    EXPECT_EQ(changes.count(), 0);
+    const std::string labels = visible_labels(*app->current_editor()->main_widget());
+    EXPECT_TRUE(labels.starts_with(
+        "<h2>File Action Command</h2>|<h3>Copy Filename and Delete</h3><p>Copies the name of the selected"));
+    EXPECT_NE(labels.find("<i>Paste Filename</i> on the replacement file.</p><p><i>"), labels.npos);
+    press("OK");
+    EXPECT_FALSE(app->isVisible());
+    EXPECT_EQ(clipboard.calls, "");
+}
+
+TEST_F(EditorTest, PreviewFollowsTheCommandAndTheSelection)
+{
+    open_with({});
     app->menu_list().select(1);
-    EXPECT_TRUE(shows("a.txt"));
-    auto& command = dynamic_cast<VellumarkCommand&>(*app->menu_list().current_command());
-    command.set_start_text(u"<");
-    app->current_editor()->refresh();
+    const auto edit = [this](const char16_t* text) { editor().current_command()->set_start_text(text); };
+    edit(u"(");
+    editor().update_after_curr_command_changed();
+    EXPECT_TRUE(becomes([&] { return preview().toPlainText() == "("; }));
+    EXPECT_TRUE(visible_labels(*app).starts_with("<h2><b>No items selected</b></h2>"));
+    app->on_context_menu_selected(-1, {path_of("a.txt", "")});
+    EXPECT_TRUE(shows("(a.txt"));
+    edit(u"<");
+    editor().update_after_curr_command_changed();
     EXPECT_TRUE(shows("<a.txt"));
     EXPECT_TRUE(button("Save"));
-    app->current_editor()->begin_update();
-    command.set_start_text(u"[");
-    app->current_editor()->end_update();
+    edit(u"{");
+    editor().refresh();
+    EXPECT_TRUE(shows("{a.txt"));
+    editor().begin_update();
+    edit(u"[");
+    editor().end_update();
     EXPECT_TRUE(shows("[a.txt"));
     app->on_context_menu_selected(-1, {path_of("b.txt", "")});
     EXPECT_TRUE(shows("[b.txt"));
+}
+
+TEST_F(EditorTest, EditingPaneOpensAndKeepsItsHeight)
+{
+    const auto pane = [this] { return editor().main_widget()->findChild<QScrollArea*>(); };
+    const auto splitter = [this] { return editor().main_widget()->findChild<QSplitter*>(); };
+    open_with({path_of("a.txt", "")});
+    EXPECT_FALSE(pane()->isVisible());
+    QTest::mouseClick(editor().main_widget()->findChild<DisclosureHeader*>(), Qt::LeftButton);
+    EXPECT_TRUE(pane()->isVisible());
+    editor().set_expanded(false);
+    EXPECT_FALSE(pane()->isVisible());
+    editor().set_expanded(true);
+    EXPECT_TRUE(pane()->isVisible());
+    splitter()->setSizes({123, 300});
+    const int height = splitter()->sizes()[0];
+    press("Cancel");
+    open_with({path_of("a.txt", "")});
+    editor().set_expanded(true);
+    EXPECT_EQ(splitter()->sizes()[0], height);
 }
