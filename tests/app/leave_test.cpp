@@ -19,24 +19,25 @@
 
 namespace {
 
-constexpr std::string_view no_configure_box =
-    "Vellumark Configure|<p>The stored commands list does not contain the <i>More Commands</i> "
-    "command.</p><p>Without "
-    "this command, you can only access the configuration window by holding CTRL while selecting any Vellumark "
-    "command "
-    "in Windows File Explorer.</p><p>To restore the <i>More Commands</i> command:<ol><li>Click <b>Cancel</b> to "
-    "close "
-    "this message<li>Click the <b>New</b> button to open the new command dialog<li>Click the <b>Add 'More "
-    "Commands...' Command</b> button</p><p>Press <b>Save</b> if you still want to save this list without the <i>More "
-    "Commands</i> command.</p>|Save, Cancel\n";
-constexpr std::string_view menu_empty_box = "Vellumark Configure|<p>Cannot save empty context menu commands "
-                                            "list.</p><p>Press the <b>Reset to default commands "
-                                            "list</b> button to restore the default commands list.</p>|OK\n";
-constexpr std::string_view write_failed_box =
-    "Vellumark Configure|Failed to save stored commands\nFailed to write commands to temporary file.|OK\n";
-constexpr std::string_view changes_box =
-    "Vellumark Configure|<p>You have made changes to the stored commands.</p><p>Press <b>Save</b> to save these "
-    "changes, or <b>Don't Save</b> to close this dialog without saving the changes.</p>|Save, Don't Save, Cancel\n";
+const std::string no_configure_box = BoxAnswer::box(
+    "<p>The stored commands list does not contain the <i>More Commands</i> command.</p><p>Without this command, you "
+    "can only access the configuration window by holding CTRL while selecting any Vellumark command in Windows File "
+    "Explorer.</p><p>To restore the <i>More Commands</i> command:<ol><li>Click <b>Cancel</b> to close this message"
+    "<li>Click the <b>New</b> button to open the new command dialog<li>Click the <b>Add 'More Commands...' Command"
+    "</b> button</p><p>Press <b>Save</b> if you still want to save this list without the <i>More Commands</i> "
+    "command.</p>",
+    "Save, Cancel");
+const std::string menu_empty_box =
+    BoxAnswer::box("<p>Cannot save empty context menu commands list.</p><p>Press the <b>Reset to "
+                   "default commands list</b> button to restore the default commands list.</p>",
+                   "OK");
+const std::string write_failed_box =
+    BoxAnswer::box("Failed to save stored commands\nFailed to write commands to temporary file.", "OK");
+const std::string changes_box =
+    BoxAnswer::box("<p>You have made changes to the stored commands.</p><p>Press <b>Save</b> to save "
+                   "these changes, or <b>Don't Save</b> to close this dialog without saving the "
+                   "changes.</p>",
+                   "Save, Don't Save, Cancel");
 
 TEST_F(AppTest, SavesWhatMayBeSaved)
 {
@@ -163,7 +164,7 @@ TEST_F(AppTest, StaysWhenTheSaveOnLeavingIsRefused)
     // One answer for both boxes: the second one refuses a menu that leads nowhere.
     const BoxAnswer box({"Save", "Cancel"});
     press("OK");
-    EXPECT_EQ(box.seen(), std::string(changes_box) + std::string(no_configure_box));
+    EXPECT_EQ(box.seen(), changes_box + no_configure_box);
     EXPECT_TRUE(app->isVisible());
 }
 

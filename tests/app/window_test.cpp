@@ -4,17 +4,14 @@
 
 #include "app/appearance.h"
 #include "engine/items/mv_items_set.h"
+#include "support/browser.h"
 #include "ui/colours.h"
 #include "ui/lists/commands_table_view.h"
-#include "ui/selection_reader.h"
 #include "ui/text.h"
 
 #include <QApplication>
-#include <QDesktopServices>
 #include <QTest>
-#include <QTimer>
 #include <QToolButton>
-#include <QUrl>
 
 #include <functional>
 #include <stdexcept>
@@ -70,7 +67,6 @@ TEST_F(AppTest, RefreshesAfterASelectionThatCantBeTakenWhole)
         {[] { throw std::runtime_error("no more"); }, "Exception in on_context_menu_selected: no more"},
         {[] { throw 1; }, "Unknown exception in on_context_menu_selected"},
     };
-    folder.write("a.txt");
     store("A", "L");
     for (const Case& c : cases) {
         open_again();
@@ -78,56 +74,12 @@ TEST_F(AppTest, RefreshesAfterASelectionThatCantBeTakenWhole)
         editor->calls.clear();
         editor->before_offer = c.fail;
         const DebugLog log;
-        app->on_context_menu_selected(0, {to_qstring(folder.path("a.txt"))});
+        app->on_context_menu_selected(0, {path_of("a.txt")});
         EXPECT_TRUE(QTest::qWaitFor([&] { return editor->calls == "coming refresh "; }, 60'000)) << editor->calls;
         EXPECT_TRUE(DebugLog::text().ends_with(c.told)) << DebugLog::text();
         EXPECT_EQ(app->selected_items()->items().size(), 1U);
         editor->before_offer = nullptr;
     }
-}
-
-/// A text run that ends some time after it was asked to.
-class TextRun final : public SelectionReader
-{
-public:
-    explicit TextRun(SelectionReaders& readers) : readers_(readers) { readers_.add_reader(*this); }
-
-    ~TextRun() { readers_.remove_reader(*this); }
-
-    bool is_reading() const override { return reads_; }
-
-    void stop_reading() override
-    {
-        QTimer::singleShot(20, &context_, [this] {
-            reads_ = false;
-            readers_.reading_ended();
-        });
-    }
-
-private:
-    SelectionReaders& readers_;
-    bool reads_ = true;
-    QObject context_; ///< takes the timers along when it goes
-};
-
-TEST_F(AppTest, LeavesTheSelectionAloneWhileItIsRead)
-{
-    store("A, B, C");
-    folder.write("a.txt");
-    folder.write("b.txt");
-    open();
-    const TextRun run(app->selection_readers());
-    const auto is_waiting = [this] { return app->selection_readers().is_selection_waiting(); };
-    app->on_context_menu_selected(1, {to_qstring(folder.path("a.txt"))});
-    EXPECT_TRUE(QTest::qWaitFor(is_waiting, 60'000));
-    app->on_context_menu_selected(2, {to_qstring(folder.path("a.txt")), to_qstring(folder.path("b.txt"))});
-    EXPECT_TRUE(run.is_reading());
-    EXPECT_TRUE(app->is_selection_coming());
-    EXPECT_EQ(state(), "menu[*A, B, C] library[]");
-    EXPECT_TRUE(app->selected_items()->items().empty());
-    EXPECT_TRUE(QTest::qWaitFor([this] { return app->selected_items()->items().size() == 2; }, 60'000));
-    EXPECT_EQ(state(), "menu[A, B, *C] library[]");
-    EXPECT_FALSE(app->is_selection_coming());
 }
 
 TEST_F(AppTest, ReturnIsForTheDefaultButtonAlone)
@@ -152,27 +104,13 @@ TEST_F(AppTest, ReturnIsForTheDefaultButtonAlone)
     EXPECT_EQ(editor->calls, "run ");
 }
 
-class Browser : public QObject
-{
-    Q_OBJECT
-
-public slots:
-
-    void open(const QUrl& url) { opened = url.toString().toStdString(); }
-
-public:
-    std::string opened;
-};
-
 TEST_F(AppTest, ShowsHelpAndAbout)
 {
     store("A, More");
     open();
-    Browser browser;
-    QDesktopServices::setUrlHandler("https", &browser, "open");
+    const Browser browser;
     press("Help");
-    QDesktopServices::unsetUrlHandler("https");
-    EXPECT_EQ(browser.opened, "https://vellumark.example/vellumark/help/4.7/index.html?configure.html");
+    EXPECT_EQ(browser.opened(), "https://vellumark.example/vellumark/help/4.7/index.html?configure.html");
     const BoxAnswer box({"OK"});
     for (QToolButton* tool : app->findChildren<QToolButton*>())
         if (tool->text() == "About")
@@ -207,5 +145,3 @@ TEST(Appearance, FollowsTheDesktop)
 }
 
 }
-
-#include "window_test.moc"

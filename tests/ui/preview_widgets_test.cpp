@@ -1,5 +1,6 @@
 #include "engine/items/mv_items_set.h"
 #include "support/temp_folder.h"
+#include "support/visible_labels.h"
 #include "ui/colours.h"
 #include "ui/preview/clipboard_preview_container_widget.h"
 #include "ui/preview/elided_label.h"
@@ -19,16 +20,6 @@
 #include <algorithm>
 
 namespace {
-
-/// The texts of the labels that can be seen, joined.
-std::string visible_labels(const QWidget& widget)
-{
-    QStringList texts;
-    for (const auto* label : widget.findChildren<QLabel*>())
-        if (label->isVisible() && !label->text().isEmpty())
-            texts += label->text();
-    return texts.join('|').toStdString();
-}
 
 QRgb background(QWidget& edit)
 {
@@ -55,12 +46,7 @@ TEST(ClipboardPreview, ShowsTextOrWorkOrHelp)
     EXPECT_EQ(visible_labels(preview), "Updating...") << "of the run before nothing is left";
     EXPECT_EQ(edit.toPlainText(), "");
     preview.show_page_for(0);
-    EXPECT_EQ(visible_labels(preview),
-              "<h2><b>No items selected</b></h2><p>To select items:</p><ul><li style='line-height: 150%;'>Open "
-              "<i>Windows File Explorer</i> (you can use the shortcut <b>Win+E</b>)</li><li style='line-height: "
-              "150%;'>Select one or more files or folders</li><li style='line-height: 150%;'>Right click on any "
-              "selected item to open the context menu</li><li style='line-height: 150%;'>In the <b>Vellumark</b> "
-              "submenu, select the <b>More Commands</b> command</li></ul>");
+    EXPECT_TRUE(visible_labels(preview).starts_with("<h2><b>No items selected</b></h2><p>To select items:</p><ul>"));
     preview.show_page_for(1);
     EXPECT_EQ(visible_labels(preview), "Updating...");
 }

@@ -196,43 +196,4 @@ TEST(StackedWidget, IsAsHighAsThePageThatShows)
     EXPECT_EQ(stack.index_of(&stack), -1);
 }
 
-/// Counts how often the widget paints.
-class PaintCounter : public QObject
-{
-public:
-    explicit PaintCounter(QWidget& widget) { widget.installEventFilter(this); }
-
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        paints += event->type() == QEvent::Paint;
-        return false;
-    }
-
-    int paints = 0;
-};
-
-/// What QWidget does at both events; our widgets rely on it.
-TEST(ColourScheme, MakesWidgetsPaintAnew)
-{
-    GripSplitter splitter(Qt::Horizontal);
-    HeaderLabel label("Label");
-    DisclosureHeader header("Header");
-    DisclosureTriangle triangle;
-    splitter.addWidget(new QWidget);
-    splitter.addWidget(new QWidget);
-    for (QWidget* top : std::initializer_list<QWidget*>{&splitter, &label, &header, &triangle}) {
-        top->resize(120, 60);
-        top->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(top));
-        QApplication::processEvents();
-        QWidget* widget = top == &splitter ? splitter.handle(1) : top;
-        for (const QEvent::Type type : {QEvent::PaletteChange, QEvent::ThemeChange}) {
-            PaintCounter counter(*widget);
-            QEvent event(type);
-            QApplication::sendEvent(widget, &event);
-            EXPECT_TRUE(QTest::qWaitFor([&] { return counter.paints > 0; }, 1000));
-        }
-    }
-}
-
 }
