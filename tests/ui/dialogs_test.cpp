@@ -1,6 +1,5 @@
 #include "engine/commands/vellumark_command.h"
 #include "engine/items/mv_items_set.h"
-#include "fake_app.h"
 #include "store/mv_command_builtin.h"
 #include "support/browser.h"
 #include "support/fake_clipboard.h"
@@ -9,7 +8,6 @@
 #include "ui/dialogs/about_dlg.h"
 #include "ui/dialogs/change_command_name_dlg.h"
 #include "ui/dialogs/checksum_compare_dlg.h"
-#include "ui/dialogs/no_commands_widget.h"
 #include "ui/text.h"
 
 #include <gtest/gtest.h>
@@ -24,24 +22,6 @@
 #include <stdexcept>
 
 namespace {
-
-TEST(NoCommandsWidget, SaysWhyAndOffersTheDefaults)
-{
-    FakeApp app;
-    NoCommandsWidget page(app);
-    page.show();
-    const auto* button = page.findChild<QPushButton*>();
-    const auto state = [&](bool is_library, bool is_empty) {
-        page.set_state(is_library, is_empty);
-        return visible_labels(page) + (button->isHidden() ? "" : " [" + button->text().toStdString() + "]");
-    };
-    EXPECT_EQ(state(true, true), "Commands library is empty");
-    EXPECT_EQ(state(false, true), "Context menu commands list is empty [Reset to default commands list]");
-    QTest::mouseClick(page.findChild<QPushButton*>(), Qt::LeftButton);
-    EXPECT_EQ(app.calls, "reset ");
-    EXPECT_EQ(state(true, false), "Select a command");
-    EXPECT_EQ(state(false, false), "Select a command");
-}
 
 TEST(ChangeCommandNameDlg, KeepsBothTextsOnOk)
 {

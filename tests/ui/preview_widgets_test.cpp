@@ -12,7 +12,6 @@
 #include <gtest/gtest.h>
 
 #include <QDialogButtonBox>
-#include <QFontInfo>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
@@ -34,7 +33,8 @@ TEST(ClipboardPreview, ShowsTextOrWorkOrHelp)
     auto& edit = *preview.findChild<PreviewTextEdit*>();
     preview.resize(400, 300);
     preview.show();
-    EXPECT_TRUE(edit.isVisible());
+    EXPECT_TRUE(edit.isVisible() && edit.isReadOnly());
+    EXPECT_EQ(edit.textInteractionFlags(), Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     preview.show_updating();
     EXPECT_EQ(visible_labels(preview), "Updating...");
     preview.show_progress("Computing checksums...", "C:\\a");
@@ -49,16 +49,6 @@ TEST(ClipboardPreview, ShowsTextOrWorkOrHelp)
     EXPECT_TRUE(visible_labels(preview).starts_with("<h2><b>No items selected</b></h2><p>To select items:</p><ul>"));
     preview.show_page_for(1);
     EXPECT_EQ(visible_labels(preview), "Updating...");
-}
-
-TEST(ClipboardPreview, EditIsReadAndSelectedByMouseAndKeyboardOnly)
-{
-    const PreviewTextEdit edit;
-    EXPECT_TRUE(edit.isReadOnly());
-    EXPECT_EQ(edit.textInteractionFlags(), Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    EXPECT_EQ(edit.tabStopDistance(), 30.0);
-    EXPECT_EQ(edit.lineWrapMode(), QPlainTextEdit::NoWrap);
-    EXPECT_TRUE(QFontInfo(edit.font()).fixedPitch());
 }
 
 TEST(ClipboardPreview, BackgroundFollowsTheScheme)
