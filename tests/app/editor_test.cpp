@@ -3,6 +3,7 @@
 #include "box_answer.h"
 #include "debug_log.h"
 #include "store/last_command.h"
+#include "support/becomes.h"
 #include "support/fake_clipboard.h"
 #include "support/visible_labels.h"
 #include "ui/editor/command_main_widget_base.h"
@@ -39,13 +40,10 @@ protected:
         app = std::make_unique<MirvantaApp>(editors_with(clipboard));
         app->show();
         app->on_context_menu_selected(-1, paths);
-        EXPECT_TRUE(
-            QTest::qWaitFor([&] { return app->selected_items()->items().size() == std::size_t(paths.size()); }));
+        EXPECT_TRUE(becomes([&] { return app->selected_items()->items().size() == std::size_t(paths.size()); }));
     }
 
     QPlainTextEdit& preview() const { return *app->findChild<QPlainTextEdit*>(); }
-
-    static bool becomes(const std::function<bool()>& condition) { return QTest::qWaitFor(condition, 60'000); }
 
     bool shows(const QString& text) const
     {
@@ -95,26 +93,22 @@ TEST_F(EditorTest, ClosesThoughTheCommandCantBeKept)
 
 TEST_F(EditorTest, TellsWhatFailedAndStays)
 {
-    struct Case {
-        bool FakeClipboard::*fails;
-        std::string box, calls;
-    };
-
+    using Case = std::tuple<bool FakeClipboard::*, std::string, std::string_view>;
     const std::string no_copy = BoxAnswer::box("Failed to copy text to Windows clipboard", "OK");
     open_with({path_of("a.txt"), path_of("b.txt")});
     EXPECT_TRUE(shows("0000000000000000"));
-    for (const Case& c :
+    for (const auto& [fails, text, calls] :
          {Case{&FakeClipboard::can_open, BoxAnswer::box("Failed to open Windows clipboard", "OK"), "o"},
           Case{&FakeClipboard::can_empty, no_copy, "oec"}, Case{&FakeClipboard::can_set, no_copy, "oesc"}}) {
-        clipboard.*c.fails = false;
+        clipboard.*fails = false;
         clipboard.calls.clear();
         const BoxAnswer box({"OK"});
         press("OK");
-        EXPECT_EQ(box.seen(), c.box);
-        EXPECT_EQ(clipboard.calls, c.calls);
+        EXPECT_EQ(box.seen(), text);
+        EXPECT_EQ(clipboard.calls, calls);
         EXPECT_TRUE(app->isVisible());
         EXPECT_FALSE(read_last_command());
-        clipboard.*c.fails = true;
+        clipboard.*fails = true;
     }
 }
 

@@ -1,6 +1,7 @@
 #include "app/mirvanta_named_pipe_server.h"
 #include "debug_log.h"
 #include "platform/message_pipe.h"
+#include "support/becomes.h"
 #include "support/error_output.h"
 #include "support/raw_client.h"
 #include "support/scoped_variable.h"
@@ -36,9 +37,7 @@ protected:
     void start()
     {
         server_.start({hang, hang});
-        const auto end = std::chrono::steady_clock::now() + hang;
-        while (send("") == std::errc::connection_refused && std::chrono::steady_clock::now() < end)
-            std::this_thread::sleep_for(1ms);
+        EXPECT_TRUE(becomes([this] { return send("") != std::errc::connection_refused; }));
     }
 
     /// Returns when the server has read it; what it leads to may come a moment later.
@@ -49,7 +48,7 @@ protected:
 
     bool wait_for(int count)
     {
-        return QTest::qWaitFor([&] { return selections_.size() >= count; }, 60'000);
+        return becomes([&] { return selections_.size() >= count; });
     }
 
     TempFolder folder_;
@@ -144,7 +143,7 @@ TEST_F(NamedPipeServerTest, WhatIsTakenIsDeliveredWhenTheServerGoes)
             }
             return error;
         });
-        EXPECT_TRUE(QTest::qWaitFor([&] { return taken > round; }, 60'000));
+        EXPECT_TRUE(becomes([&] { return taken > round; }));
         server.reset();
         const std::error_code error = client.get();
         EXPECT_TRUE(error == std::errc::connection_refused || error == std::errc::connection_reset ||
@@ -163,17 +162,14 @@ TEST_F(NamedPipeServerTest, MessageInProgressIsRefusedWhenTheServerGoes)
     auto server = std::make_unique<MirvantaNamedPipeServer>();
     server->start();
     int client = -1;
-    EXPECT_TRUE(
-        QTest::qWaitFor([&] { return (client = raw_client(folder_.host(server->pipe_name()))) >= 0; }, 60'000));
+    EXPECT_TRUE(becomes([&] { return (client = raw_client(folder_.host(server->pipe_name()))) >= 0; }));
     const std::string message = message_of(50);
     // Taken from the queue when the owner has read it.
     EXPECT_EQ(write(client, message.data(), message.size()), 50);
-    EXPECT_TRUE(QTest::qWaitFor(
-        [&] {
-            int unread = -1;
-            return ioctl(client, TIOCOUTQ, &unread) == 0 && unread == 0;
-        },
-        60'000));
+    EXPECT_TRUE(becomes([&] {
+        int unread = -1;
+        return ioctl(client, TIOCOUTQ, &unread) == 0 && unread == 0;
+    }));
     server.reset();
     shutdown(client, SHUT_WR);
     char refusal = 0;
@@ -199,7 +195,7 @@ TEST_F(NamedPipeServerTest, ExceptionCostsOneMessage)
 
     server.start();
     const auto send = [](std::string_view message) { return platform::send_message("thrower", message, hang); };
-    EXPECT_TRUE(QTest::qWaitFor([&] { return send("") != std::errc::connection_refused; }, 60'000));
+    EXPECT_TRUE(becomes([&] { return send("") != std::errc::connection_refused; }));
     const ErrorOutput output;
     EXPECT_EQ(send("x"), std::errc::connection_reset);
     EXPECT_EQ(output.wait(), "NamedPipeServer error: message lost; std::bad_alloc\n");

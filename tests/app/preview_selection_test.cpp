@@ -57,7 +57,7 @@ protected:
 
     bool settles_all()
     {
-        return QTest::qWaitFor([this] { return !intake_.is_selection_waiting(); }, 60'000) && settles(*generator_);
+        return becomes([this] { return !intake_.is_selection_waiting(); }) && settles(*generator_);
     }
 
     TempFolder folder_;

@@ -1,5 +1,6 @@
 #include "app_test.h"
 #include "box_answer.h"
+#include "support/becomes.h"
 #include "support/visible_labels.h"
 
 #include <QSettings>
@@ -72,7 +73,7 @@ TEST_F(AppTest, StartsWithFilesThatCantBeRead)
         const BoxAnswer box({"OK"});
         open_again();
         EXPECT_EQ(box.seen(), "") << "the window comes first";
-        EXPECT_TRUE(QTest::qWaitFor([&] { return c.box.empty() || !box.seen().empty(); }, 60'000));
+        EXPECT_TRUE(becomes([&] { return c.box.empty() || !box.seen().empty(); }));
         EXPECT_EQ(shortened(box.seen()), c.box);
         EXPECT_EQ(state(), c.state);
         EXPECT_EQ(content(user_file), c.commands);
@@ -85,7 +86,7 @@ TEST_F(AppTest, KeepsTheFileThatCouldntBeRead)
     folder.write(user_file, "typo");
     open();
     const BoxAnswer box({"OK"});
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !box.seen().empty(); }, 60'000));
+    EXPECT_TRUE(becomes([&] { return !box.seen().empty(); }));
     app->reset_stored_commands();
     for (const char* kept : {".broken", ".broken2"}) {
         EXPECT_TRUE(app->save_commands_list());

@@ -1,5 +1,6 @@
 #include "app_test.h"
 
+#include "support/becomes.h"
 #include "ui/dialogs/change_command_name_dlg.h"
 #include "ui/lists/commands_list_model.h"
 #include "ui/lists/commands_list_widget.h"
@@ -117,7 +118,7 @@ std::string findings_of_dialog(const std::function<void()>& open)
     });
     timer.start(0);
     open();
-    [[maybe_unused]] const bool seen = QTest::qWaitFor([&] { return found != none; });
+    [[maybe_unused]] const bool seen = becomes([&] { return found != none; });
     return found;
 }
 

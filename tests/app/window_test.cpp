@@ -4,6 +4,7 @@
 
 #include "app/appearance.h"
 #include "engine/items/mv_items_set.h"
+#include "support/becomes.h"
 #include "support/browser.h"
 #include "ui/colours.h"
 #include "ui/lists/commands_table_view.h"
@@ -46,7 +47,7 @@ TEST_F(AppTest, TakesSelections)
         for (const std::string& name : c.names)
             paths += to_qstring(folder.path(name));
         app->on_context_menu_selected(c.index, paths);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return editor->calls.ends_with("refresh "); }, 60'000));
+        EXPECT_TRUE(becomes([&] { return editor->calls.ends_with("refresh "); }));
         EXPECT_EQ(editor->calls, "coming refresh ");
         std::string expected(c.expected);
         if (!expected.starts_with("library"))
@@ -58,25 +59,19 @@ TEST_F(AppTest, TakesSelections)
 
 TEST_F(AppTest, RefreshesAfterASelectionThatCantBeTakenWhole)
 {
-    struct Case {
-        std::function<void()> fail;
-        std::string_view told;
-    };
-
-    const Case cases[] = {
+    const std::vector<std::pair<std::function<void()>, std::string_view>> cases{
         {[] { throw std::runtime_error("no more"); }, "Exception in on_context_menu_selected: no more"},
-        {[] { throw 1; }, "Unknown exception in on_context_menu_selected"},
-    };
+        {[] { throw 1; }, "Unknown exception in on_context_menu_selected"}};
     store("A", "L");
-    for (const Case& c : cases) {
+    for (const auto& [fail, told] : cases) {
         open_again();
         show_tab(1);
         editor->calls.clear();
-        editor->before_offer = c.fail;
+        editor->before_offer = fail;
         const DebugLog log;
         app->on_context_menu_selected(0, {path_of("a.txt")});
-        EXPECT_TRUE(QTest::qWaitFor([&] { return editor->calls == "coming refresh "; }, 60'000)) << editor->calls;
-        EXPECT_TRUE(DebugLog::text().ends_with(c.told)) << DebugLog::text();
+        EXPECT_TRUE(becomes([&] { return editor->calls == "coming refresh "; })) << editor->calls;
+        EXPECT_TRUE(DebugLog::text().ends_with(told)) << DebugLog::text();
         EXPECT_EQ(app->selected_items()->items().size(), 1U);
         editor->before_offer = nullptr;
     }
@@ -115,7 +110,7 @@ TEST_F(AppTest, ShowsHelpAndAbout)
     for (QToolButton* tool : app->findChildren<QToolButton*>())
         if (tool->text() == "About")
             tool->click();
-    EXPECT_TRUE(QTest::qWaitFor([&box] { return !box.seen().empty(); }));
+    EXPECT_TRUE(becomes([&box] { return !box.seen().empty(); }));
     EXPECT_EQ(box.seen(), "About Vellumark||OK\n");
 }
 

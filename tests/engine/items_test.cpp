@@ -215,12 +215,7 @@ const MVItemBase& node_at(MVItemsSet& set, std::u16string path)
 
 TEST(PathAssembly, FollowsEveryOption)
 {
-    struct Case {
-        std::u16string path;
-        PathStyle style;
-        std::string expected;
-    };
-
+    using Case = std::tuple<std::u16string, PathStyle, std::string>;
     const std::u16string file = u"C:\\a\\b\\f.txt", share = u"\\\\server\\share\\f.txt";
     const Case cases[]{
         {file, {}, R"(C:\a\b\f.txt)"},
@@ -245,11 +240,11 @@ TEST(PathAssembly, FollowsEveryOption)
         {share, {.no_drive = true}, R"(\share\f.txt)"},
         {share, {.case_type = CaseType::CamelCase}, R"(server\share\fTxt)"},
     };
-    for (const Case& c : cases) {
+    for (const auto& [path, style, expected] : cases) {
         MVItemsSet set;
         std::u16string text = u"before ";
-        node_at(set, c.path).append_path(text, c.style);
-        EXPECT_EQ(to_utf8(text), "before " + c.expected);
+        node_at(set, path).append_path(text, style);
+        EXPECT_EQ(to_utf8(text), "before " + expected);
     }
 }
 

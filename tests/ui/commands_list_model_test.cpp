@@ -1,4 +1,5 @@
 #include "list_fixture.h"
+#include "support/becomes.h"
 #include "support/temp_folder.h"
 #include "ui/colours.h"
 #include "ui/lists/commands_comparison.h"
@@ -115,13 +116,13 @@ TEST_F(CommandsListRows, SlowFiltersAreAnsweredLater)
         set_filter(row, u"(j|J)(p|P)e?g$");
     const QColor shown = colours::file_name_command_shown(), hidden = colours::file_name_command_not_shown();
     EXPECT_EQ(colours_of(app.menu.model()), (std::vector{shown, shown, shown}));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return colours_of(app.menu.model()) == std::vector{hidden, hidden, shown}; }));
+    EXPECT_TRUE(becomes([&] { return colours_of(app.menu.model()) == std::vector{hidden, hidden, shown}; }));
     set_filter(0, u"png");
     EXPECT_EQ(colours_of(app.menu.model()), (std::vector{shown, hidden, shown})) << "asked anew after a change";
     app.items->reset();
     app.items->add_path(folder.write("image.jpg"));
     app.menu.model().refresh_rows();
-    EXPECT_TRUE(QTest::qWaitFor([&] {
+    EXPECT_TRUE(becomes([&] {
         return colours_of(app.menu.model()) == std::vector{hidden, shown, shown};
     })) << "and for another selection";
 }
@@ -162,11 +163,7 @@ TEST(CommandsComparison, LeavesOutTheLastSession)
         return commands;
     };
 
-    struct Row {
-        QStringList left, right;
-        bool same;
-    };
-
+    using Row = std::tuple<QStringList, QStringList, bool>;
     for (const auto& [left, right, same] :
          {Row{{}, {}, true}, Row{{"A", "B"}, {"A", "B"}, true}, Row{{"A", "B"}, {"B", "A"}, false},
           Row{{"A", "B"}, {"A"}, false}, Row{{"A"}, {"A", "B"}, false}, Row{{"~A", "B", "~C"}, {"B"}, true},

@@ -83,19 +83,16 @@ TEST_F(CommandsListUndo, CommitAndDiscard)
 
 TEST_F(CommandsListUndo, ReorderByDragging)
 {
-    struct Row {
-        std::vector<int> dragged;
-        int target;
-        std::string after;
-    };
-
     CommandsListModel& model = app.menu.model();
-    for (const Row& row :
-         {Row{{0}, 4, "B C D >A Save"}, Row{{3}, 0, ">D A B C Save"}, Row{{3, 1}, 0, ">B D A C Save"},
-          Row{{0, 2}, -1, "B D A >C Save"}, Row{{1, 3}, 1, "A B >D C Save"}}) {
-        select_rows(row.dragged);
-        const QModelIndexList dragged = app.menu.selection().selectedIndexes();
-        expect_step("Undo Reorder Commands", row.after, [&] { EXPECT_TRUE(drop(model, dragged, row.target)); });
+    const std::vector<std::tuple<std::vector<int>, int, std::string>> cases{{{0}, 4, "B C D >A Save"},
+                                                                            {{3}, 0, ">D A B C Save"},
+                                                                            {{3, 1}, 0, ">B D A C Save"},
+                                                                            {{0, 2}, -1, "B D A >C Save"},
+                                                                            {{1, 3}, 1, "A B >D C Save"}};
+    for (const auto& [rows, target, after] : cases) {
+        select_rows(rows);
+        expect_step("Undo Reorder Commands", after,
+                    [&, to = target] { EXPECT_TRUE(drop(model, app.menu.selection().selectedIndexes(), to)); });
     }
     const QModelIndexList second{model.index(1, 0), model.index(1, 1), model.index(1, 2)};
     for (const int target : {1, 2})

@@ -42,7 +42,7 @@ protected:
         QSignalSpy progress(generator_.get(), &PreviewGenerator::progress_changed);
         generator_->set_command(checksums());
         const auto has_begun = [&] { return !progress.isEmpty() && !progress.back()[1].toString().isEmpty(); };
-        EXPECT_TRUE(QTest::qWaitFor(has_begun, 60'000));
+        EXPECT_TRUE(becomes(has_begun));
     }
 
     /// Without its events, which would bring the text.
@@ -55,7 +55,7 @@ protected:
 
     bool stops_reading()
     {
-        return QTest::qWaitFor([this] { return !generator_->is_reading(); }, 60'000);
+        return becomes([this] { return !generator_->is_reading(); });
     }
 
     TempFolder folder_;
@@ -117,7 +117,7 @@ TEST_F(PreviewGeneratorTest, StartsNothingWhileASelectionWaits)
     generator_->stop_reading();
     EXPECT_TRUE(generator_->is_reading()) << "the worker can't have noticed yet";
     generator_->set_command(names());
-    EXPECT_TRUE(QTest::qWaitFor([this] { return readers_.ended > 0; }, 60'000));
+    EXPECT_TRUE(becomes([this] { return readers_.ended > 0; }));
     QTest::qWait(50);
     EXPECT_TRUE(!generator_->is_reading() && generator_->is_updating());
     EXPECT_EQ(log_.text(), "......");

@@ -1,4 +1,5 @@
 #include "engine/items/mv_items_set.h"
+#include "support/becomes.h"
 #include "support/temp_folder.h"
 #include "support/visible_labels.h"
 #include "ui/colours.h"
@@ -117,7 +118,7 @@ TEST(ExemplarItemProvider, ReadsPropertiesOnDemandOfTheNewestItem)
     QTest::qWait(50);
     EXPECT_EQ(read.size(), 0) << "nobody asked for the second item's";
     provider.exemplar()->properties();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !read.isEmpty(); }, 60'000));
+    ASSERT_TRUE(becomes([&] { return !read.isEmpty(); }));
     const auto& properties = *provider.exemplar()->properties();
     EXPECT_EQ(std::ranges::count(properties, ExemplarProperty{"System.FileName", "Filename", "two.txt"}), 1);
     const auto name = std::ranges::find(properties, "System.FileName", &ExemplarProperty::canonical_name);

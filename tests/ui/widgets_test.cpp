@@ -1,3 +1,4 @@
+#include "support/becomes.h"
 #include "ui/widgets/disclosure_header.h"
 #include "ui/widgets/disclosure_triangle.h"
 #include "ui/widgets/expandable_container_widget.h"
@@ -64,7 +65,7 @@ TEST(ExpandableContainerWidget, RevealsItsContentInSteps)
     container->animate_to_new_height();
     EXPECT_EQ(content->height(), 400);
     EXPECT_EQ(container->sizeHint().height(), 40);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return container->sizeHint().height() > 100; }, 1000));
+    ASSERT_TRUE(becomes([&] { return container->sizeHint().height() > 100; }));
     const int halfway = container->sizeHint().height();
     content->set_height(41);
     container->animate_to_new_height();
@@ -76,7 +77,7 @@ TEST(ExpandableContainerWidget, RevealsItsContentInSteps)
     EXPECT_EQ(container->sizeHint().height(), 41);
     window.resize(333, 100);
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return content->size() == QSize(container->width(), 41); }, 1000));
+    EXPECT_TRUE(becomes([&] { return content->size() == QSize(container->width(), 41); }));
 }
 
 TEST(Disclosure, AnswersToMouseAndKeyboard)
