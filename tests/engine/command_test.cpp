@@ -1,5 +1,6 @@
 #include "engine/commands/checksum_comparison.h"
 #include "engine_fixture.h"
+#include "support/error_of.h"
 
 #include <gtest/gtest.h>
 
@@ -68,12 +69,7 @@ TEST(CommandJson, WrongKindsAreRefused)
         EXPECT_THROW(make_command(json), std::exception) << json;
     boost::json::object object;
     for (const char* key : {"name", "separator", "fileParts"}) {
-        try {
-            VellumarkCommand read(object);
-            FAIL();
-        } catch (const std::runtime_error& error) {
-            EXPECT_EQ(error.what(), "Missing key in JSON: " + std::string(key));
-        }
+        EXPECT_EQ(error_of([&] { VellumarkCommand read(object); }), "Missing key in JSON: " + std::string(key));
         object[key] = "";
     }
     VellumarkCommand command;
@@ -103,15 +99,11 @@ TEST(Command, CopiesAreDeepAndEqualityIsOfAllFields)
         [](VellumarkCommand& c) { c.set_file_filter_enabled(true); },
         [](VellumarkCommand& c) { c.set_file_filter_preset_uuid(u"x"); },
         [](VellumarkCommand& c) {
-            ItemFilter f;
-            f.set_filter_pattern(u"x");
-            c.set_file_filter(f);
+            c.set_file_filter(ItemFilter({{"filterPattern", "x"}}));
         },
         [](VellumarkCommand& c) { c.set_folder_filter_enabled(true); },
         [](VellumarkCommand& c) {
-            ItemFilter f;
-            f.set_filter_pattern(u"x");
-            c.set_folder_filter(f);
+            c.set_folder_filter(ItemFilter({{"filterPattern", "x"}}));
         },
     };
     for (std::size_t i = 0; i < changes.size(); ++i) {

@@ -1,6 +1,7 @@
 #include "engine/items/long_path.h"
 #include "engine/items/mv_item_exception.h"
 #include "engine_fixture.h"
+#include "support/error_of.h"
 
 #include <gtest/gtest.h>
 
@@ -18,12 +19,7 @@ std::string names(const MVItemFolder& folder)
 
 std::string error_of(std::u16string_view path, MVItemsSet& set)
 {
-    try {
-        set.add_path(path);
-    } catch (const std::exception& error) {
-        return error.what();
-    }
-    return "";
+    return ::error_of([&] { set.add_path(path); });
 }
 
 const MVItemFolder& folder_at(const MVItemsSet& set, std::size_t index)
@@ -45,7 +41,7 @@ TEST(AddPath, SelectsTopLevelNodesWithoutALook)
 {
     MVItemsSet set;
     for (const auto* path : {u"C:\\", u"Q:\\", u"\\\\server", u"\\\\SERVER\\"})
-        EXPECT_EQ(error_of(path, set), "");
+        EXPECT_EQ(error_of(path, set), "no error");
     ASSERT_EQ(set.items().size(), 4u);
     EXPECT_EQ(names(set.root()), "\\\\server/ C:/ Q:/ ");
     EXPECT_EQ(set.items()[2], set.items()[3]);
