@@ -88,10 +88,8 @@ TEST_F(AppTest, KeepsTheFileThatCouldntBeRead)
     const BoxAnswer box({"OK"});
     EXPECT_TRUE(becomes([&] { return !box.seen().empty(); }));
     app->reset_stored_commands();
-    for (const char* kept : {".broken", ".broken2"}) {
-        EXPECT_TRUE(app->save_commands_list());
-        EXPECT_EQ(exists(std::string(user_file) + kept), std::string_view(kept) == ".broken");
-    }
+    EXPECT_TRUE(app->save_commands_list() && app->save_commands_list());
+    EXPECT_FALSE(exists(std::string(user_file) + ".broken2"));
     EXPECT_EQ(content(std::string(user_file) + ".broken"), "typo");
 }
 

@@ -145,12 +145,10 @@ TEST_F(PreviewGeneratorTest, SuspendedItWorksNot)
     EXPECT_EQ(log_.text(), ".........[endless][]");
 }
 
-TEST_F(PreviewGeneratorTest, ProgressIsToldAndForgotten)
+TEST_F(PreviewGeneratorTest, ProgressComesSlowlyAndEndsWithTheRun)
 {
     QSignalSpy progress(generator_.get(), &PreviewGenerator::progress_changed);
     start_endless_run();
-    EXPECT_EQ(progress.back()[0], "Computing checksums...");
-    EXPECT_TRUE(progress.back()[1].toString().endsWith("\\endless"));
     progress.clear();
     QElapsedTimer time;
     time.start();
