@@ -175,12 +175,15 @@ TEST_F(EditorTest, OkMeansTheSelectionThatIsComing)
         const char* answer;
         bool FakeClipboard::*fails;
         std::u16string_view copied;
+        std::string_view calls;
     };
 
     constexpr std::u16string_view old = u"0xCBF43926";
-    for (const Case& c :
-         {Case{1, "", nullptr, u"b.txt"}, Case{0, "OK", nullptr, u"cbf43926"}, Case{0, "Cancel", nullptr, old},
-          Case{1, "OK", &FakeClipboard::can_open, old}, Case{0, "OK", &FakeClipboard::can_set, old}}) {
+    for (const Case& c : {Case{1, "", nullptr, u"b.txt", "oesc"}, Case{0, "OK", nullptr, u"cbf43926", "orcoesc"},
+                          Case{0, "Cancel", nullptr, old, "orc"}, Case{1, "OK", &FakeClipboard::can_open, old, "o"},
+                          Case{0, "OK", &FakeClipboard::can_open, old, "oo"},
+                          Case{0, "OK", &FakeClipboard::can_set, old, "orcoesc"}}) {
+        clipboard.calls.clear();
         clipboard.text = old;
         folder.write(last_file, "[]");
         if (c.fails)
@@ -194,6 +197,7 @@ TEST_F(EditorTest, OkMeansTheSelectionThatIsComing)
         EXPECT_TRUE(becomes([&] { return !waits && app->isVisible() == (c.fails != nullptr); }));
         EXPECT_EQ(box.seen().empty(), std::string_view(c.answer).empty());
         EXPECT_EQ(clipboard.text, c.copied);
+        EXPECT_EQ(clipboard.calls, c.calls);
         EXPECT_EQ(read_last_command() != nullptr, c.copied != old);
         clipboard.can_open = clipboard.can_set = true;
     }

@@ -194,6 +194,10 @@ TEST(ChecksumComparison, FindsTheCopiedChecksum)
     EXPECT_FALSE(selecting({folder.path()}));
     const auto no_clipboard = [] { return std::optional<std::u16string>(); };
     EXPECT_FALSE(compare_checksum(command, set, u"cbf43926", no_clipboard));
+    int reads = 0;
+    const auto counted = [&] { return std::optional(std::u16string(static_cast<std::size_t>(++reads), u'0')); };
+    EXPECT_FALSE(compare_checksum(command, set, u"", counted));
+    EXPECT_EQ(reads, 0);
 }
 
 }

@@ -1,9 +1,5 @@
-#include "engine/commands/vellumark_command.h"
-#include "engine/items/mv_items_set.h"
 #include "store/mv_command_builtin.h"
 #include "support/browser.h"
-#include "support/fake_clipboard.h"
-#include "support/temp_folder.h"
 #include "support/visible_labels.h"
 #include "ui/dialogs/about_dlg.h"
 #include "ui/dialogs/change_command_name_dlg.h"
@@ -18,8 +14,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
-
-#include <stdexcept>
 
 namespace {
 
@@ -64,39 +58,6 @@ TEST(ChecksumCompareDlg, ShowsBothChecksumsReadably)
         EXPECT_EQ(dialog.result(), equal ? QDialog::Accepted : QDialog::Rejected);
     }
     QApplication::setPalette(before);
-}
-
-TEST(CompareWithClipboard, ReadsWhenItMattersAndAlwaysCloses)
-{
-    const TempFolder folder;
-    const MVItemsSet set(folder.write("file"));
-    const VellumarkCommand command(
-        boost::json::parse(
-            R"({"name": "sums", "separator": "", "fileParts": [{"item-type": "checksum", "checksum-type": "crc32"}]})")
-            .as_object());
-
-    struct Case {
-        std::optional<std::u16string> copied;
-        std::u16string_view generated;
-        bool can_open, found;
-        std::string_view calls;
-    };
-
-    for (const Case& c : std::initializer_list<Case>{{u"CRC32: 0xCBF43926", u"cbf43926", true, true, "orc"},
-                                                     {std::nullopt, u"cbf43926", true, false, "orc"},
-                                                     {u"CBF43926", u"cbf43926", false, false, "o"},
-                                                     {u"CBF43926", u"", true, false, ""}}) {
-        FakeClipboard clipboard;
-        clipboard.text = c.copied;
-        clipboard.can_open = c.can_open;
-        const auto comparison = compare_with_clipboard(clipboard, command, set, c.generated);
-        EXPECT_EQ(comparison.has_value(), c.found);
-        EXPECT_EQ(clipboard.calls, c.calls);
-        if (comparison) {
-            EXPECT_EQ(comparison->clipboard_checksum, u"CBF43926");
-            EXPECT_TRUE(comparison->matches);
-        }
-    }
 }
 
 TEST(AboutDlg, TellsTheVersionAndLeadsToTheWebSite)
