@@ -20,8 +20,6 @@
 #include <QTest>
 #include <QTimer>
 
-#include <functional>
-
 namespace {
 
 constexpr std::string_view sums = R"({"menuCommands":[{"commandType":"Vellumark","name":"Sums","separator":"",

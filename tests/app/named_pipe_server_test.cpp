@@ -9,8 +9,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QTest>
-
 #include <sys/ioctl.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
@@ -21,7 +19,6 @@
 #include <memory>
 #include <new>
 #include <stdexcept>
-#include <thread>
 #include <vector>
 
 using namespace std::chrono_literals;

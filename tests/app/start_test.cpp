@@ -4,7 +4,6 @@
 #include "support/visible_labels.h"
 
 #include <QSettings>
-#include <QTest>
 
 namespace {
 

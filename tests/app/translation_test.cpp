@@ -7,14 +7,10 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTabBar>
-#include <QTabWidget>
-#include <QTest>
 #include <QTimer>
-#include <QToolButton>
 #include <QTranslator>
 
 namespace {

@@ -7,7 +7,8 @@
 #include <QElapsedTimer>
 #include <QFont>
 #include <QIcon>
-#include <QTest>
+
+#include <tuple>
 
 namespace {
 

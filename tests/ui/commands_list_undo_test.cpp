@@ -4,6 +4,8 @@
 #include <QMimeData>
 #include <QSignalSpy>
 
+#include <tuple>
+
 namespace {
 
 using CommandsListUndo = ListFixture;

@@ -11,13 +11,10 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
-#include <QApplication>
 #include <QPainter>
 #include <QSignalSpy>
 #include <QTest>
 #include <QVBoxLayout>
-
-#include <functional>
 
 namespace {
 
