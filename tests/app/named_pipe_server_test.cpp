@@ -31,9 +31,9 @@ constexpr auto hang = 60s;
 class NamedPipeServerTest : public testing::Test
 {
 protected:
-    void start()
+    void start(std::chrono::milliseconds patience = hang)
     {
-        server_.start({hang, hang});
+        server_.start({patience, hang});
         EXPECT_TRUE(becomes([this] { return send("") != std::errc::connection_refused; }));
     }
 
@@ -111,6 +111,17 @@ TEST_F(NamedPipeServerTest, BurstFromManyClientsArrivesWhole)
     EXPECT_TRUE(wait_for(200));
     selections_.removeDuplicates();
     EXPECT_EQ(selections_.size(), 200);
+}
+
+TEST_F(NamedPipeServerTest, SilentClientBlocksNobodyForLong)
+{
+    start(100ms);
+    const ErrorOutput output;
+    const int silent = raw_client(folder_.host(server_.pipe_name()));
+    ASSERT_GE(silent, 0);
+    EXPECT_FALSE(send(message_of(50)));
+    EXPECT_EQ(output.wait(), "NamedPipeServer error: ReadFile() failed; Error=0x0000006e\n");
+    close(silent);
 }
 
 TEST_F(NamedPipeServerTest, SecondServerGoesWithoutIntake)

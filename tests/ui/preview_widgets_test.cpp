@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include <QDialogButtonBox>
+#include <QFontInfo>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
@@ -36,6 +37,9 @@ TEST(ClipboardPreview, ShowsTextOrWorkOrHelp)
     preview.show();
     EXPECT_TRUE(edit.isVisible() && edit.isReadOnly());
     EXPECT_EQ(edit.textInteractionFlags(), Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    EXPECT_EQ(edit.tabStopDistance(), 30.0);
+    EXPECT_EQ(edit.lineWrapMode(), QPlainTextEdit::NoWrap);
+    EXPECT_TRUE(QFontInfo(edit.font()).fixedPitch());
     preview.show_updating();
     EXPECT_EQ(visible_labels(preview), "Updating...");
     preview.show_progress("Computing checksums...", "C:\\a");
