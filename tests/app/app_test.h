@@ -2,7 +2,8 @@
 
 #include "app/mirvanta_app.h"
 #include "store_test.h"
-#include "test_editor.h"
+#include "support/test_editor.h"
+#include "ui/text.h"
 
 #include <QPushButton>
 
@@ -24,6 +25,12 @@ protected:
 
     /// Writes the command run last.
     void run_last(std::string_view name, std::string_view more = {}) const;
+
+    /// Writes a file to select; returns its path.
+    QString path_of(std::string_view name, std::string_view content = {}) const
+    {
+        return to_qstring(folder.write(name, content));
+    }
 
     /// Opens the window. The editor takes file-name commands.
     MirvantaApp& open(bool with_editor = true);

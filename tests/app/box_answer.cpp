@@ -1,5 +1,7 @@
 #include "box_answer.h"
 
+#include "ui/preview/wait_for_text_dlg.h"
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QMessageBox>
@@ -13,7 +15,7 @@ BoxAnswer::BoxAnswer(QStringList buttons) : buttons_(std::move(buttons))
 void BoxAnswer::answer()
 {
     QWidget* dialog = QApplication::activeModalWidget();
-    if (!dialog)
+    if (!dialog || qobject_cast<WaitForTextDlg*>(dialog))
         return;
     const auto* box = qobject_cast<QMessageBox*>(dialog);
     QStringList names;

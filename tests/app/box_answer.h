@@ -3,8 +3,11 @@
 #include <QStringList>
 #include <QTimer>
 
+#include <string>
+
 /// Waits for the modal boxes and dialogs that the next calls open, keeps what they say and presses a button in each:
-/// `buttons` in turn, the last one again and again. For "" the box is closed as by its frame.
+/// `buttons` in turn, the last one again and again. For "" the box is closed as by its frame. The box that waits for
+/// a text goes by itself.
 class BoxAnswer
 {
 public:
@@ -12,6 +15,12 @@ public:
 
     /// The titles, texts and buttons of the boxes that were answered, such as "Title|Text|Save, Cancel\n".
     const std::string& seen() const { return seen_; }
+
+    /// How a box of the program's with that text and these buttons is seen.
+    static std::string box(const std::string& text, const std::string& buttons)
+    {
+        return "Vellumark Configure|" + text + "|" + buttons + "\n";
+    }
 
 private:
     void answer();

@@ -11,8 +11,8 @@ class DebugLog
 public:
     DebugLog() : before_(qInstallMessageHandler(&DebugLog::keep))
     {
-        const std::lock_guard lock(mutex());
-        lines().clear();
+        const std::lock_guard lock(mutex_);
+        lines_.clear();
     }
 
     ~DebugLog() { qInstallMessageHandler(before_); }
@@ -23,28 +23,18 @@ public:
     /// All lines so far, with "|" between them.
     static std::string text()
     {
-        const std::lock_guard lock(mutex());
-        return lines().join('|').toStdString();
+        const std::lock_guard lock(mutex_);
+        return lines_.join('|').toStdString();
     }
 
 private:
     static void keep(QtMsgType, const QMessageLogContext&, const QString& line)
     {
-        const std::lock_guard lock(mutex());
-        lines() += line;
+        const std::lock_guard lock(mutex_);
+        lines_ += line;
     }
 
-    static std::mutex& mutex()
-    {
-        static std::mutex instance;
-        return instance;
-    }
-
-    static QStringList& lines()
-    {
-        static QStringList kept;
-        return kept;
-    }
-
+    static inline std::mutex mutex_;
+    static inline QStringList lines_;
     QtMessageHandler before_;
 };

@@ -1,17 +1,24 @@
 #include "app/editors.h"
 #include "app_test.h"
 #include "box_answer.h"
+#include "debug_log.h"
 #include "store/last_command.h"
+#include "support/becomes.h"
 #include "support/fake_clipboard.h"
-#include "ui/editor/builtin_commands_main_widget.h"
+#include "support/visible_labels.h"
+#include "ui/editor/command_main_widget_base.h"
 #include "ui/editor/vellumark_controller.h"
 #include "ui/preview/wait_for_text_dlg.h"
-#include "ui/text.h"
+#include "ui/widgets/disclosure_header.h"
 
 #include <QApplication>
-#include <QLabel>
 #include <QPlainTextEdit>
+#include <QPointer>
+#include <QScrollArea>
+#include <QSignalSpy>
+#include <QSplitter>
 #include <QTest>
+#include <QTimer>
 
 namespace {
 
@@ -31,20 +38,24 @@ protected:
         app = std::make_unique<MirvantaApp>(editors_with(clipboard));
         app->show();
         app->on_context_menu_selected(-1, paths);
-        EXPECT_TRUE(
-            QTest::qWaitFor([&] { return app->selected_items()->items().size() == std::size_t(paths.size()); }));
-    }
-
-    QString path_of(std::string_view name, std::string_view content) const
-    {
-        return to_qstring(folder.write(name, content));
+        EXPECT_TRUE(becomes([&] { return app->selected_items()->items().size() == std::size_t(paths.size()); }));
     }
 
     QPlainTextEdit& preview() const { return *app->findChild<QPlainTextEdit*>(); }
 
     bool shows(const QString& text) const
     {
-        return QTest::qWaitFor([&] { return preview().isVisible() && preview().toPlainText() == text; }, 60'000);
+        return becomes([&] { return preview().isVisible() && preview().toPlainText() == text; });
+    }
+
+    VellumarkController& editor() const { return dynamic_cast<VellumarkController&>(*app->current_editor()); }
+
+    WaitForTextDlg* open_wait_dialog() const
+    {
+        press("OK");
+        auto* dialog = app->findChild<WaitForTextDlg*>();
+        EXPECT_TRUE(dialog && dialog->isVisible());
+        return dialog;
     }
 
     FakeClipboard clipboard;
@@ -54,7 +65,7 @@ protected:
 
 TEST_F(EditorTest, ShowsTheTextAndCopiesIt)
 {
-    open_with({path_of("a.txt", "123456789"), path_of("b.txt", "")});
+    open_with({path_of("a.txt", "123456789"), path_of("b.txt")});
     EXPECT_TRUE(shows("cbf4392600000000"));
     app->menu_list().select(1);
     EXPECT_TRUE(shows("a.txt,b.txt"));
@@ -66,54 +77,37 @@ TEST_F(EditorTest, ShowsTheTextAndCopiesIt)
     EXPECT_EQ(read_last_command()->name(), u"Names");
 }
 
+TEST_F(EditorTest, ClosesThoughTheCommandCantBeKept)
+{
+    open_with({path_of("a.txt")});
+    EXPECT_TRUE(shows("00000000"));
+    const ScopedVariable nowhere("XDG_CONFIG_HOME", folder.host("a.txt"));
+    const DebugLog log;
+    press("OK");
+    EXPECT_TRUE(DebugLog::text().starts_with("The last command can't be kept:")) << DebugLog::text();
+    EXPECT_FALSE(app->isVisible());
+    EXPECT_EQ(clipboard.text, u"00000000");
+}
+
 TEST_F(EditorTest, TellsWhatFailedAndStays)
 {
-    struct Case {
-        bool FakeClipboard::*fails;
-        std::string_view box, calls;
-    };
-
-    constexpr std::string_view no_copy = "Vellumark Configure|Failed to copy text to Windows clipboard|OK\n";
-    open_with({path_of("a.txt", ""), path_of("b.txt", "")});
+    using Case = std::tuple<bool FakeClipboard::*, std::string, std::string_view>;
+    const std::string no_copy = BoxAnswer::box("Failed to copy text to Windows clipboard", "OK");
+    open_with({path_of("a.txt"), path_of("b.txt")});
     EXPECT_TRUE(shows("0000000000000000"));
-    for (const Case& c :
-         {Case{&FakeClipboard::can_open, "Vellumark Configure|Failed to open Windows clipboard|OK\n", "o"},
+    for (const auto& [fails, text, calls] :
+         {Case{&FakeClipboard::can_open, BoxAnswer::box("Failed to open Windows clipboard", "OK"), "o"},
           Case{&FakeClipboard::can_empty, no_copy, "oec"}, Case{&FakeClipboard::can_set, no_copy, "oesc"}}) {
-        clipboard.*c.fails = false;
+        clipboard.*fails = false;
         clipboard.calls.clear();
         const BoxAnswer box({"OK"});
         press("OK");
-        EXPECT_EQ(box.seen(), c.box);
-        EXPECT_EQ(clipboard.calls, c.calls);
+        EXPECT_EQ(box.seen(), text);
+        EXPECT_EQ(clipboard.calls, calls);
         EXPECT_TRUE(app->isVisible());
         EXPECT_FALSE(read_last_command());
-        clipboard.*c.fails = true;
+        clipboard.*fails = true;
     }
-}
-
-TEST_F(EditorTest, ComparesOneChecksumWithTheClipboard)
-{
-    for (const auto& [answer, copied] : {std::pair{"Cancel", u"0xCBF43926"}, std::pair{"OK", u"cbf43926"}}) {
-        clipboard.text = u"0xCBF43926";
-        open_with({path_of("a.txt", "123456789")});
-        EXPECT_TRUE(shows("cbf43926"));
-        bool was_hidden = false;
-        QTimer watch;
-        QObject::connect(&watch, &QTimer::timeout, [&] { was_hidden |= !app->isVisible(); });
-        watch.start(0);
-        const BoxAnswer box({answer});
-        press("OK");
-        EXPECT_TRUE(was_hidden);
-        EXPECT_FALSE(app->isVisible());
-        EXPECT_EQ(clipboard.text, copied);
-    }
-    clipboard.text = u"0xCBF43926";
-    clipboard.can_set = false;
-    open_with({path_of("a.txt", "123456789")});
-    EXPECT_TRUE(shows("cbf43926"));
-    const BoxAnswer box({"OK"});
-    press("OK");
-    EXPECT_TRUE(app->isVisible()) << "the user may try again";
 }
 
 TEST_F(EditorTest, CopiesWhatWasComparedThoughASelectionComes)
@@ -123,11 +117,13 @@ TEST_F(EditorTest, CopiesWhatWasComparedThoughASelectionComes)
     EXPECT_TRUE(shows("cbf43926"));
     QTimer::singleShot(0, app.get(), [&] {
         ASSERT_TRUE(QApplication::activeModalWidget());
+        EXPECT_FALSE(app->isVisible());
         app->on_context_menu_selected(1, {path_of("b.txt", "other")});
-        EXPECT_TRUE(QTest::qWaitFor([&] { return preview().toPlainText() == "b.txt"; }, 60'000));
+        EXPECT_TRUE(becomes([&] { return preview().toPlainText() == "b.txt"; }));
         qobject_cast<QDialog*>(QApplication::activeModalWidget())->accept();
     });
     press("OK");
+    EXPECT_FALSE(app->isVisible());
     EXPECT_EQ(clipboard.text, u"cbf43926");
     EXPECT_EQ(read_last_command()->name(), u"Sums");
 }
@@ -160,44 +156,74 @@ TEST_F(EditorTest, ASelectionEndsTheWaitForTheOldOne)
 {
     for (const int row : {2, 1, -1}) {
         open_with({to_qstring(folder.write_endless("endless"))});
-        press("OK");
-        auto* box = app->findChild<WaitForTextDlg*>();
-        ASSERT_TRUE(box && box->isVisible());
-        app->on_context_menu_selected(row, {path_of("a.txt", "")});
+        const WaitForTextDlg* box = open_wait_dialog();
+        app->on_context_menu_selected(row, {path_of("a.txt")});
         EXPECT_FALSE(box->isVisible());
-        EXPECT_TRUE(QTest::qWaitFor([&] { return !app->is_selection_coming(); }, 60'000));
+        EXPECT_TRUE(becomes([&] { return !app->is_selection_coming(); }));
         EXPECT_TRUE(row == 2 || shows(row == 1 ? "a.txt" : "00000000"));
         EXPECT_TRUE(app->isVisible());
         EXPECT_EQ(clipboard.calls, "");
     }
 }
 
-TEST_F(EditorTest, OkMeansTheSelectionThatIsComingAndTheCommandThatShows)
+TEST_F(EditorTest, OkMeansTheSelectionThatIsComing)
 {
-    for (const int row : {-1, 0}) {
-        open_with({path_of("a.txt", "")});
-        app->menu_list().select(1);
-        EXPECT_TRUE(shows("a.txt"));
-        app->on_context_menu_selected(row, {path_of("b.txt", "")});
-        press("OK");
-        EXPECT_TRUE(app->isVisible());
-        EXPECT_TRUE(QTest::qWaitFor([&] { return !app->is_selection_coming(); }, 60'000));
-        EXPECT_TRUE(row == 0 ? shows("00000000") : QTest::qWaitFor([&] { return !app->isVisible(); }, 60'000));
-        EXPECT_EQ(clipboard.text, row == 0 ? std::nullopt : std::optional<std::u16string>(u"b.txt"));
-        clipboard.text.reset();
+    struct Case {
+        int row;
+        const char* answer;
+        bool FakeClipboard::*fails;
+        std::u16string_view copied;
+        std::string_view calls;
+    };
+
+    constexpr std::u16string_view old = u"0xCBF43926";
+    for (const Case& c : {Case{1, "", nullptr, u"b.txt", "oesc"}, Case{0, "OK", nullptr, u"cbf43926", "orcoesc"},
+                          Case{0, "Cancel", nullptr, old, "orc"}, Case{1, "OK", &FakeClipboard::can_open, old, "o"},
+                          Case{0, "OK", &FakeClipboard::can_open, old, "oo"},
+                          Case{0, "OK", &FakeClipboard::can_set, old, "orcoesc"}}) {
+        clipboard.calls.clear();
+        clipboard.text = old;
+        folder.write(last_file, "[]");
+        if (c.fails)
+            clipboard.*c.fails = false;
+        open_with({path_of("a.txt")});
+        app->menu_list().select(c.row);
+        EXPECT_TRUE(shows(c.row == 1 ? "a.txt" : "00000000"));
+        app->on_context_menu_selected(-1, {path_of("b.txt", "123456789")});
+        const BoxAnswer box({c.answer});
+        const QPointer<WaitForTextDlg> waits = open_wait_dialog();
+        EXPECT_TRUE(becomes([&] { return !waits && app->isVisible() == (c.fails != nullptr); }));
+        EXPECT_EQ(box.seen().empty(), std::string_view(c.answer).empty());
+        EXPECT_EQ(clipboard.text, c.copied);
+        EXPECT_EQ(clipboard.calls, c.calls);
+        EXPECT_EQ(read_last_command() != nullptr, c.copied != old);
+        clipboard.can_open = clipboard.can_set = true;
     }
+}
+
+TEST_F(EditorTest, OkMeansTheCommandThatShows)
+{
+    open_with({path_of("a.txt")});
+    app->menu_list().select(1);
+    EXPECT_TRUE(shows("a.txt"));
+    app->on_context_menu_selected(0, {path_of("b.txt")});
+    const QPointer<WaitForTextDlg> waits = open_wait_dialog();
+    EXPECT_TRUE(shows("00000000"));
+    EXPECT_FALSE(waits && waits->isVisible());
+    EXPECT_TRUE(app->isVisible());
+    EXPECT_EQ(clipboard.calls, "");
 }
 
 TEST_F(EditorTest, NoOldTextShowsWhileASelectionComes)
 {
-    open_with({path_of("a.txt", "")});
+    open_with({path_of("a.txt")});
     EXPECT_TRUE(shows("00000000"));
     app->menu_list().select(1);
-    auto& generator = *app->current_editor()->findChild<PreviewGenerator*>();
-    while (generator.is_reading())
-        QTest::qSleep(1);
-    app->on_context_menu_selected(-1, {path_of("b.txt", "")});
-    app->current_editor()->refresh();
+    auto& generator = *editor().findChild<PreviewGenerator*>();
+    for (int i = 0; i < 60'000 && generator.is_reading(); ++i)
+        QTest::qSleep(1); // the text stays on its way
+    app->on_context_menu_selected(-1, {path_of("b.txt")});
+    editor().refresh();
     while (app->is_selection_coming()) {
         EXPECT_FALSE(preview().isVisible());
         QCoreApplication::processEvents();
@@ -208,43 +234,81 @@ TEST_F(EditorTest, NoOldTextShowsWhileASelectionComes)
 TEST_F(EditorTest, WaitsForTheTextThatIsStillMade)
 {
     open_with({to_qstring(folder.write_endless("endless"))});
-    press("OK");
-    auto* box = app->findChild<WaitForTextDlg*>();
-    ASSERT_TRUE(box && box->isVisible());
-    box->reject();
+    open_wait_dialog()->reject();
     EXPECT_TRUE(app->isVisible());
     EXPECT_EQ(clipboard.calls, "");
     QTest::qWait(1); // the box goes
-    press("OK");
-    box = app->findChild<WaitForTextDlg*>();
-    ASSERT_TRUE(box && box->isVisible());
+    const WaitForTextDlg* box = open_wait_dialog();
+    const auto tells_progress = [](const QWidget* widget) {
+        const std::string labels = visible_labels(*widget);
+        return labels.find("|Computing checksums...|C:\\") != labels.npos && labels.ends_with("endless");
+    };
+    EXPECT_TRUE(becomes([&] { return tells_progress(box) && tells_progress(editor().main_widget()); }));
     std::filesystem::resize_file(folder.host("endless"), 0);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !app->isVisible(); }, 60'000));
+    EXPECT_TRUE(becomes([&] { return !app->isVisible(); }));
     ASSERT_TRUE(clipboard.text);
     EXPECT_EQ(to_qstring(*clipboard.text), preview().toPlainText());
 }
 
-TEST_F(EditorTest, PagesFollowTheCommandAndTheSelection)
+TEST_F(EditorTest, ABuiltinCommandEndsTheWorkOfTheOther)
 {
-    open_with({path_of("a.txt", "")});
+    open_with({to_qstring(folder.write_endless("endless"))});
+    VellumarkController& other = editor();
     app->menu_list().select(2);
-    QStringList labels;
-    for (const QLabel* label : app->findChild<BuiltinCommandsMainWidget*>()->findChildren<QLabel*>())
-        labels += label->isVisible() ? label->text() : "hidden";
-    EXPECT_TRUE(labels.join('|').startsWith(
-        "<h2>File Action Command</h2>|hidden|<h3>Copy Filename and Delete</h3><p>Copies the name"));
-    EXPECT_TRUE(labels.back().contains("<i>Paste Filename</i> on the replacement file.</p><p><i>"));
+    const QSignalSpy changes(&other, &CommandControllerBase::current_command_changed);
+    other.refresh();
+    EXPECT_EQ(changes.count(), 0);
+    const std::string labels = visible_labels(*app->current_editor()->main_widget());
+    EXPECT_TRUE(labels.starts_with(
+        "<h2>File Action Command</h2>|<h3>Copy Filename and Delete</h3><p>Copies the name of the selected"));
+    EXPECT_NE(labels.find("<i>Paste Filename</i> on the replacement file.</p><p><i>"), labels.npos);
+    press("OK");
+    EXPECT_FALSE(app->isVisible());
+    EXPECT_EQ(clipboard.calls, "");
+}
+
+TEST_F(EditorTest, PreviewFollowsTheCommandAndTheSelection)
+{
+    open_with({});
     app->menu_list().select(1);
-    EXPECT_TRUE(shows("a.txt"));
-    auto& command = dynamic_cast<VellumarkCommand&>(*app->menu_list().current_command());
-    command.set_start_text(u"<");
-    app->current_editor()->refresh();
+    const auto edit = [this](const char16_t* text) { editor().current_command()->set_start_text(text); };
+    edit(u"(");
+    editor().update_after_curr_command_changed();
+    EXPECT_TRUE(becomes([&] { return preview().toPlainText() == "("; }));
+    EXPECT_TRUE(visible_labels(*app).starts_with("<h2><b>No items selected</b></h2>"));
+    app->on_context_menu_selected(-1, {path_of("a.txt")});
+    EXPECT_TRUE(shows("(a.txt"));
+    edit(u"<");
+    editor().update_after_curr_command_changed();
     EXPECT_TRUE(shows("<a.txt"));
     EXPECT_TRUE(button("Save"));
-    app->current_editor()->begin_update();
-    command.set_start_text(u"[");
-    app->current_editor()->end_update();
+    edit(u"{");
+    editor().refresh();
+    EXPECT_TRUE(shows("{a.txt"));
+    editor().begin_update();
+    edit(u"[");
+    editor().end_update();
     EXPECT_TRUE(shows("[a.txt"));
-    app->on_context_menu_selected(-1, {path_of("b.txt", "")});
+    app->on_context_menu_selected(-1, {path_of("b.txt")});
     EXPECT_TRUE(shows("[b.txt"));
+}
+
+TEST_F(EditorTest, EditingPaneOpensAndKeepsItsHeight)
+{
+    const auto pane = [this] { return editor().main_widget()->findChild<QScrollArea*>(); };
+    const auto splitter = [this] { return editor().main_widget()->findChild<QSplitter*>(); };
+    open_with({path_of("a.txt")});
+    EXPECT_FALSE(pane()->isVisible());
+    QTest::mouseClick(editor().main_widget()->findChild<DisclosureHeader*>(), Qt::LeftButton);
+    EXPECT_TRUE(pane()->isVisible());
+    editor().set_expanded(false);
+    EXPECT_FALSE(pane()->isVisible());
+    editor().set_expanded(true);
+    EXPECT_TRUE(pane()->isVisible());
+    splitter()->setSizes({123, 300});
+    const int height = splitter()->sizes()[0];
+    press("Cancel");
+    open_with({path_of("a.txt")});
+    editor().set_expanded(true);
+    EXPECT_TRUE(becomes([&] { return splitter()->sizes()[0] == height; }));
 }

@@ -1,14 +1,13 @@
 #include "app/mirvanta_named_pipe_server.h"
 #include "debug_log.h"
 #include "platform/message_pipe.h"
+#include "support/becomes.h"
 #include "support/error_output.h"
 #include "support/raw_client.h"
 #include "support/scoped_variable.h"
 #include "support/temp_folder.h"
 
 #include <gtest/gtest.h>
-
-#include <QTest>
 
 #include <sys/ioctl.h>
 #include <sys/resource.h>
@@ -20,7 +19,6 @@
 #include <memory>
 #include <new>
 #include <stdexcept>
-#include <thread>
 #include <vector>
 
 using namespace std::chrono_literals;
@@ -36,9 +34,7 @@ protected:
     void start(std::chrono::milliseconds patience = hang)
     {
         server_.start({patience, hang});
-        const auto end = std::chrono::steady_clock::now() + hang;
-        while (send("") == std::errc::connection_refused && std::chrono::steady_clock::now() < end)
-            std::this_thread::sleep_for(1ms);
+        EXPECT_TRUE(becomes([this] { return send("") != std::errc::connection_refused; }));
     }
 
     /// Returns when the server has read it; what it leads to may come a moment later.
@@ -49,7 +45,7 @@ protected:
 
     bool wait_for(int count)
     {
-        return QTest::qWaitFor([&] { return selections_.size() >= count; }, 60'000);
+        return becomes([&] { return selections_.size() >= count; });
     }
 
     TempFolder folder_;
@@ -124,7 +120,6 @@ TEST_F(NamedPipeServerTest, SilentClientBlocksNobodyForLong)
     const int silent = raw_client(folder_.host(server_.pipe_name()));
     ASSERT_GE(silent, 0);
     EXPECT_FALSE(send(message_of(50)));
-    EXPECT_TRUE(wait_for(1));
     EXPECT_EQ(output.wait(), "NamedPipeServer error: ReadFile() failed; Error=0x0000006e\n");
     close(silent);
 }
@@ -156,7 +151,7 @@ TEST_F(NamedPipeServerTest, WhatIsTakenIsDeliveredWhenTheServerGoes)
             }
             return error;
         });
-        EXPECT_TRUE(QTest::qWaitFor([&] { return taken > round; }, 60'000));
+        EXPECT_TRUE(becomes([&] { return taken > round; }));
         server.reset();
         const std::error_code error = client.get();
         EXPECT_TRUE(error == std::errc::connection_refused || error == std::errc::connection_reset ||
@@ -175,17 +170,14 @@ TEST_F(NamedPipeServerTest, MessageInProgressIsRefusedWhenTheServerGoes)
     auto server = std::make_unique<MirvantaNamedPipeServer>();
     server->start();
     int client = -1;
-    EXPECT_TRUE(
-        QTest::qWaitFor([&] { return (client = raw_client(folder_.host(server->pipe_name()))) >= 0; }, 60'000));
+    EXPECT_TRUE(becomes([&] { return (client = raw_client(folder_.host(server->pipe_name()))) >= 0; }));
     const std::string message = message_of(50);
     // Taken from the queue when the owner has read it.
     EXPECT_EQ(write(client, message.data(), message.size()), 50);
-    EXPECT_TRUE(QTest::qWaitFor(
-        [&] {
-            int unread = -1;
-            return ioctl(client, TIOCOUTQ, &unread) == 0 && unread == 0;
-        },
-        60'000));
+    EXPECT_TRUE(becomes([&] {
+        int unread = -1;
+        return ioctl(client, TIOCOUTQ, &unread) == 0 && unread == 0;
+    }));
     server.reset();
     shutdown(client, SHUT_WR);
     char refusal = 0;
@@ -211,7 +203,7 @@ TEST_F(NamedPipeServerTest, ExceptionCostsOneMessage)
 
     server.start();
     const auto send = [](std::string_view message) { return platform::send_message("thrower", message, hang); };
-    EXPECT_TRUE(QTest::qWaitFor([&] { return send("") != std::errc::connection_refused; }, 60'000));
+    EXPECT_TRUE(becomes([&] { return send("") != std::errc::connection_refused; }));
     const ErrorOutput output;
     EXPECT_EQ(send("x"), std::errc::connection_reset);
     EXPECT_EQ(output.wait(), "NamedPipeServer error: message lost; std::bad_alloc\n");

@@ -1,4 +1,5 @@
 #include "app/path_probe.h"
+#include "support/becomes.h"
 
 #include <gtest/gtest.h>
 
@@ -25,7 +26,7 @@ protected:
 
     bool answers(const std::string& expected)
     {
-        return QTest::qWaitFor([&] { return answers_ == expected; }, 60'000);
+        return becomes([&] { return answers_ == expected; });
     }
 
     std::promise<void> server_is_back_;

@@ -27,24 +27,37 @@ protected:
 
     void refresh() { generator_->set_command(command_); }
 
+    /// In the object that the generator has, its run perhaps at work.
+    void edit_command(unsigned what)
+    {
+        if (!command_)
+            return;
+        command_->set_start_text(std::u16string(what % 100, u'<'));
+        auto& parts = *command_->file_parts();
+        if (parts.size() > 2)
+            parts.remove(parts.begin());
+        else
+            parts.append(*names()->file_parts()->begin());
+    }
+
     void do_something(unsigned what)
     {
         switch (what % 8) {
         case 0:
-        case 1:
-        case 2: intake_.take(-1, paths_.mid(what % 7, 1 + what % 13)); break;
+        case 1: intake_.take(-1, paths_.mid(what % 7, 1 + what % 13)); return;
+        case 2: command_ = nullptr; break;
         case 3: command_ = names(); break;
         case 4: command_ = checksums(); break;
-        case 5: generator_->set_command(nullptr); break;
-        case 6: what % 3 == 0 ? generator_->suspend() : generator_->resume(); break;
-        case 7: renew_generator(); break;
+        case 5: edit_command(what / 8); break;
+        case 6: what % 3 == 0 ? generator_->suspend() : generator_->resume(); return;
+        case 7: renew_generator(); return;
         }
         refresh();
     }
 
     bool settles_all()
     {
-        return QTest::qWaitFor([this] { return !intake_.is_selection_waiting(); }, 60'000) && settles(*generator_);
+        return becomes([this] { return !intake_.is_selection_waiting(); }) && settles(*generator_);
     }
 
     TempFolder folder_;
@@ -57,7 +70,7 @@ protected:
 
 }
 
-TEST_F(PreviewSelectionTest, NewSelectionStopsTheRunAndIsShown)
+TEST_F(PreviewSelectionTest, LastOfManySelectionsStopsTheRunAndIsShown)
 {
     PreviewLog log(*generator_);
     command_ = checksums();
@@ -65,11 +78,12 @@ TEST_F(PreviewSelectionTest, NewSelectionStopsTheRunAndIsShown)
     EXPECT_TRUE(generator_->is_reading());
     EXPECT_FALSE(intake_.is_selection_waiting()) << "nobody was reading";
     command_ = names();
-    intake_.take(0, {paths_[0]});
-    intake_.take(0, paths_.mid(2, 2));
-    EXPECT_TRUE(intake_.is_selection_waiting());
+    for (int i = 0; i < 100; ++i)
+        intake_.take(0, paths_.mid(i % 18, 2));
     EXPECT_TRUE(settles_all());
-    EXPECT_EQ(log.text(), "......[f2,f3]");
+    std::string texts = log.text();
+    std::erase(texts, '.');
+    EXPECT_EQ(texts, "[f9,f10]");
 }
 
 TEST_F(PreviewSelectionTest, SurvivesAnythingAtAnyMoment)

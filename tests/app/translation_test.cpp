@@ -1,19 +1,16 @@
 #include "app_test.h"
 
+#include "support/becomes.h"
 #include "ui/dialogs/change_command_name_dlg.h"
 #include "ui/lists/commands_list_model.h"
 #include "ui/lists/commands_list_widget.h"
 
 #include <QAction>
 #include <QApplication>
-#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTabBar>
-#include <QTabWidget>
-#include <QTest>
 #include <QTimer>
-#include <QToolButton>
 #include <QTranslator>
 
 namespace {
@@ -117,7 +114,7 @@ std::string findings_of_dialog(const std::function<void()>& open)
     });
     timer.start(0);
     open();
-    [[maybe_unused]] const bool seen = QTest::qWaitFor([&] { return found != none; });
+    [[maybe_unused]] const bool seen = becomes([&] { return found != none; });
     return found;
 }
 

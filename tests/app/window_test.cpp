@@ -4,17 +4,15 @@
 
 #include "app/appearance.h"
 #include "engine/items/mv_items_set.h"
+#include "support/becomes.h"
+#include "support/browser.h"
 #include "ui/colours.h"
 #include "ui/lists/commands_table_view.h"
-#include "ui/selection_reader.h"
 #include "ui/text.h"
 
 #include <QApplication>
-#include <QDesktopServices>
 #include <QTest>
-#include <QTimer>
 #include <QToolButton>
-#include <QUrl>
 
 #include <functional>
 #include <stdexcept>
@@ -49,7 +47,7 @@ TEST_F(AppTest, TakesSelections)
         for (const std::string& name : c.names)
             paths += to_qstring(folder.path(name));
         app->on_context_menu_selected(c.index, paths);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return editor->calls.ends_with("refresh "); }, 60'000));
+        EXPECT_TRUE(becomes([&] { return editor->calls.ends_with("refresh "); }));
         EXPECT_EQ(editor->calls, "coming refresh ");
         std::string expected(c.expected);
         if (!expected.starts_with("library"))
@@ -61,73 +59,22 @@ TEST_F(AppTest, TakesSelections)
 
 TEST_F(AppTest, RefreshesAfterASelectionThatCantBeTakenWhole)
 {
-    struct Case {
-        std::function<void()> fail;
-        std::string_view told;
-    };
-
-    const Case cases[] = {
+    const std::vector<std::pair<std::function<void()>, std::string_view>> cases{
         {[] { throw std::runtime_error("no more"); }, "Exception in on_context_menu_selected: no more"},
-        {[] { throw 1; }, "Unknown exception in on_context_menu_selected"},
-    };
-    folder.write("a.txt");
+        {[] { throw 1; }, "Unknown exception in on_context_menu_selected"}};
     store("A", "L");
-    for (const Case& c : cases) {
+    for (const auto& [fail, told] : cases) {
         open_again();
         show_tab(1);
         editor->calls.clear();
-        editor->before_offer = c.fail;
+        editor->before_offer = fail;
         const DebugLog log;
-        app->on_context_menu_selected(0, {to_qstring(folder.path("a.txt"))});
-        EXPECT_TRUE(QTest::qWaitFor([&] { return editor->calls == "coming refresh "; }, 60'000)) << editor->calls;
-        EXPECT_TRUE(DebugLog::text().ends_with(c.told)) << DebugLog::text();
+        app->on_context_menu_selected(0, {path_of("a.txt")});
+        EXPECT_TRUE(becomes([&] { return editor->calls == "coming refresh "; })) << editor->calls;
+        EXPECT_TRUE(DebugLog::text().ends_with(told)) << DebugLog::text();
         EXPECT_EQ(app->selected_items()->items().size(), 1U);
         editor->before_offer = nullptr;
     }
-}
-
-/// A text run that ends some time after it was asked to.
-class TextRun final : public SelectionReader
-{
-public:
-    explicit TextRun(SelectionReaders& readers) : readers_(readers) { readers_.add_reader(*this); }
-
-    ~TextRun() { readers_.remove_reader(*this); }
-
-    bool is_reading() const override { return reads_; }
-
-    void stop_reading() override
-    {
-        QTimer::singleShot(20, &context_, [this] {
-            reads_ = false;
-            readers_.reading_ended();
-        });
-    }
-
-private:
-    SelectionReaders& readers_;
-    bool reads_ = true;
-    QObject context_; ///< takes the timers along when it goes
-};
-
-TEST_F(AppTest, LeavesTheSelectionAloneWhileItIsRead)
-{
-    store("A, B, C");
-    folder.write("a.txt");
-    folder.write("b.txt");
-    open();
-    const TextRun run(app->selection_readers());
-    const auto is_waiting = [this] { return app->selection_readers().is_selection_waiting(); };
-    app->on_context_menu_selected(1, {to_qstring(folder.path("a.txt"))});
-    EXPECT_TRUE(QTest::qWaitFor(is_waiting, 60'000));
-    app->on_context_menu_selected(2, {to_qstring(folder.path("a.txt")), to_qstring(folder.path("b.txt"))});
-    EXPECT_TRUE(run.is_reading());
-    EXPECT_TRUE(app->is_selection_coming());
-    EXPECT_EQ(state(), "menu[*A, B, C] library[]");
-    EXPECT_TRUE(app->selected_items()->items().empty());
-    EXPECT_TRUE(QTest::qWaitFor([this] { return app->selected_items()->items().size() == 2; }, 60'000));
-    EXPECT_EQ(state(), "menu[A, B, *C] library[]");
-    EXPECT_FALSE(app->is_selection_coming());
 }
 
 TEST_F(AppTest, ReturnIsForTheDefaultButtonAlone)
@@ -152,32 +99,18 @@ TEST_F(AppTest, ReturnIsForTheDefaultButtonAlone)
     EXPECT_EQ(editor->calls, "run ");
 }
 
-class Browser : public QObject
-{
-    Q_OBJECT
-
-public slots:
-
-    void open(const QUrl& url) { opened = url.toString().toStdString(); }
-
-public:
-    std::string opened;
-};
-
 TEST_F(AppTest, ShowsHelpAndAbout)
 {
     store("A, More");
     open();
-    Browser browser;
-    QDesktopServices::setUrlHandler("https", &browser, "open");
+    const Browser browser;
     press("Help");
-    QDesktopServices::unsetUrlHandler("https");
-    EXPECT_EQ(browser.opened, "https://vellumark.example/vellumark/help/4.7/index.html?configure.html");
+    EXPECT_EQ(browser.opened(), "https://vellumark.example/vellumark/help/4.7/index.html?configure.html");
     const BoxAnswer box({"OK"});
     for (QToolButton* tool : app->findChildren<QToolButton*>())
         if (tool->text() == "About")
             tool->click();
-    EXPECT_TRUE(QTest::qWaitFor([&box] { return !box.seen().empty(); }));
+    EXPECT_TRUE(becomes([&box] { return !box.seen().empty(); }));
     EXPECT_EQ(box.seen(), "About Vellumark||OK\n");
 }
 
@@ -207,5 +140,3 @@ TEST(Appearance, FollowsTheDesktop)
 }
 
 }
-
-#include "window_test.moc"

@@ -1,5 +1,6 @@
 #include "engine/commands/checksum_comparison.h"
 #include "engine_fixture.h"
+#include "support/error_of.h"
 
 #include <gtest/gtest.h>
 
@@ -20,49 +21,40 @@ const std::string texts = "'separator':'\\n','startText':'','endText':'','sortOr
 const std::string parts = "'fileParts':[{'name-type':'full-name','item-type':'name'}],";
 const std::string no_files = "'addFilesFromFolders':false,";
 
-TEST(CommandJson, FillsInDefaults)
-{
-    EXPECT_EQ(rewritten("{}"), head + texts + parts + no_files + "'showUsingDefaultRules':true}");
-}
-
 TEST(CommandJson, WritesOnlyWhatCounts)
 {
     const std::string begin = head + texts + parts;
+    const std::string shown = "'showUsingDefaultRules':true", ruled = no_files + "'showUsingDefaultRules':false,";
+    const auto rule = [](const std::string& name, const std::string& files, const std::string& folders) {
+        return "'showRule':'" + name + "','showIfFilesSelected':" + files + ",'showIfFoldersSelected':" + folders;
+    };
+    const std::string filters =
+        "'fileFilter':{'filterMode':'extensions','filterAction':'include','filterPattern':'a',"
+        "'fileFilterPresetUuid':'u'},'folderFilterEnabled':false,'folderFilter':{"
+        "'filterMode':'regex','filterAction':'include','filterPattern':'('}";
     const std::vector<std::pair<std::string, std::string>> cases{
-        {"{'folderParts':[]}", begin + "'folderParts':[]," + no_files + "'showUsingDefaultRules':true}"},
+        {"{}", no_files + shown},
+        {"{'folderParts':[]}", "'folderParts':[]," + no_files + shown},
         {"{'addFilesFromFolders':true,'maxFolderDepth':3}",
-         begin + "'addFilesFromFolders':true,'limitFolderDepth':false,'showUsingDefaultRules':true}"},
+         "'addFilesFromFolders':true,'limitFolderDepth':false," + shown},
         {"{'addFilesFromFolders':true,'limitFolderDepth':true,'maxFolderDepth':3}",
-         begin + "'addFilesFromFolders':true,'limitFolderDepth':true,'maxFolderDepth':3,'showUsingDefaultRules':"
-                 "true}"},
-        {"{'limitFolderDepth':true}", begin + no_files + "'showUsingDefaultRules':true}"},
+         "'addFilesFromFolders':true,'limitFolderDepth':true,'maxFolderDepth':3," + shown},
+        {"{'limitFolderDepth':true}", no_files + shown},
         {"{'showUsingDefaultRules':false,'showRule':'exactlyOneFile'}",
-         begin + no_files +
-             "'showUsingDefaultRules':false,'showRule':'exactlyOneFile','showIfFilesSelected':true,"
-             "'showIfFoldersSelected':false}"},
+         ruled + rule("exactlyOneFile", "true", "false")},
         {"{'showUsingDefaultRules':false,'showIfFoldersSelected':true}",
-         begin + no_files +
-             "'showUsingDefaultRules':false,'showRule':'atLeastOneFolder','showIfFilesSelected':false,"
-             "'showIfFoldersSelected':true}"},
+         ruled + rule("atLeastOneFolder", "false", "true")},
         {"{'showUsingDefaultRules':false,'showIfFilesSelected':true}",
-         begin + no_files +
-             "'showUsingDefaultRules':false,'showRule':'atLeastOneFile','showIfFilesSelected':true,"
-             "'showIfFoldersSelected':false}"},
+         ruled + rule("atLeastOneFile", "true", "false")},
         {"{'showUsingDefaultRules':false,'showRule':'?','showIfFilesSelected':true}",
-         begin + no_files +
-             "'showUsingDefaultRules':false,'showRule':'atLeastOneItem','showIfFilesSelected':true,"
-             "'showIfFoldersSelected':true}"},
-        {"{'fileFilterEnabled':true}", begin + no_files + "'showUsingDefaultRules':true,'fileFilterEnabled':true}"},
+         ruled + rule("atLeastOneItem", "true", "true")},
+        {"{'fileFilterEnabled':true}", no_files + shown + ",'fileFilterEnabled':true"},
         {"{'fileFilter':{'filterPattern':'A','fileFilterPresetUuid':'u'},'folderFilterEnabled':true,'folderFilter':{"
          "'filterMode':'regex','filterPattern':'(','fileFilterPresetUuid':'u'}}",
-         begin + no_files +
-             "'showUsingDefaultRules':true,'fileFilterEnabled':false,'fileFilter':{'filterMode':"
-             "'extensions','filterAction':'include','filterPattern':'a','fileFilterPresetUuid':'u'},"
-             "'folderFilterEnabled':false,'folderFilter':{'filterMode':'regex','filterAction':"
-             "'include','filterPattern':'('}}"},
-        {"{'fileFilter':7,'fileFilterEnabled':false}", begin + no_files + "'showUsingDefaultRules':true}"},
-    };
-    for (const auto& [stored, expected] : cases) {
+         no_files + shown + ",'fileFilterEnabled':false," + filters},
+        {"{'fileFilter':7,'fileFilterEnabled':false}", no_files + shown}};
+    for (const auto& [stored, rest] : cases) {
+        const std::string expected = begin + rest + "}";
         EXPECT_EQ(rewritten(stored), expected);
         EXPECT_EQ(rewritten(expected), expected) << "what was read and not changed";
     }
@@ -77,12 +69,7 @@ TEST(CommandJson, WrongKindsAreRefused)
         EXPECT_THROW(make_command(json), std::exception) << json;
     boost::json::object object;
     for (const char* key : {"name", "separator", "fileParts"}) {
-        try {
-            VellumarkCommand read(object);
-            FAIL();
-        } catch (const std::runtime_error& error) {
-            EXPECT_EQ(error.what(), "Missing key in JSON: " + std::string(key));
-        }
+        EXPECT_EQ(error_of([&] { VellumarkCommand read(object); }), "Missing key in JSON: " + std::string(key));
         object[key] = "";
     }
     VellumarkCommand command;
@@ -112,15 +99,11 @@ TEST(Command, CopiesAreDeepAndEqualityIsOfAllFields)
         [](VellumarkCommand& c) { c.set_file_filter_enabled(true); },
         [](VellumarkCommand& c) { c.set_file_filter_preset_uuid(u"x"); },
         [](VellumarkCommand& c) {
-            ItemFilter f;
-            f.set_filter_pattern(u"x");
-            c.set_file_filter(f);
+            c.set_file_filter(ItemFilter({{"filterPattern", "x"}}));
         },
         [](VellumarkCommand& c) { c.set_folder_filter_enabled(true); },
         [](VellumarkCommand& c) {
-            ItemFilter f;
-            f.set_filter_pattern(u"x");
-            c.set_folder_filter(f);
+            c.set_folder_filter(ItemFilter({{"filterPattern", "x"}}));
         },
     };
     for (std::size_t i = 0; i < changes.size(); ++i) {
@@ -211,6 +194,10 @@ TEST(ChecksumComparison, FindsTheCopiedChecksum)
     EXPECT_FALSE(selecting({folder.path()}));
     const auto no_clipboard = [] { return std::optional<std::u16string>(); };
     EXPECT_FALSE(compare_checksum(command, set, u"cbf43926", no_clipboard));
+    int reads = 0;
+    const auto counted = [&] { return std::optional(std::u16string(static_cast<std::size_t>(++reads), u'0')); };
+    EXPECT_FALSE(compare_checksum(command, set, u"", counted));
+    EXPECT_EQ(reads, 0);
 }
 
 }

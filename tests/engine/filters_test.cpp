@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <ctime>
+#include <tuple>
 
 namespace {
 
@@ -37,12 +38,7 @@ TEST(ItemFilter, ParsesExtensionLists)
 
 TEST(ItemFilter, Matches)
 {
-    struct Case {
-        Mode mode;
-        std::u16string pattern, name;
-        bool expected;
-    };
-
+    using Case = std::tuple<Mode, std::u16string, std::u16string, bool>;
     const Case cases[]{
         {Mode::Extensions, u"jpg", u"photo.JPG", true},
         {Mode::Extensions, u"gitignore", u".gitignore", true},
@@ -88,11 +84,11 @@ TEST(ItemFilter, Matches)
         {Mode::Regex, u"[[:digit:]]x", u"7x", true},
         {Mode::Regex, u"\\.\\*\\/\\-", u".*/-", true},
     };
-    for (const Case& c : cases) {
-        ItemFilter made = filter(c.mode, c.pattern);
-        EXPECT_EQ(made.matches(c.name), c.expected) << to_utf8(c.pattern) << " on " << to_utf8(c.name);
+    for (const auto& [mode, pattern, name, expected] : cases) {
+        ItemFilter made = filter(mode, pattern);
+        EXPECT_EQ(made.matches(name), expected) << to_utf8(pattern) << " on " << to_utf8(name);
         made.set_filter_action(ItemFilter::Action::Exclude);
-        EXPECT_EQ(made.passes(c.name), c.pattern.empty() || !c.expected) << to_utf8(c.pattern);
+        EXPECT_EQ(made.passes(name), pattern.empty() || !expected) << to_utf8(pattern);
     }
 }
 

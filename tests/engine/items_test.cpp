@@ -1,10 +1,12 @@
 #include "engine/items/long_path.h"
 #include "engine/items/mv_item_exception.h"
 #include "engine_fixture.h"
+#include "support/error_of.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <tuple>
 
 namespace {
 
@@ -18,12 +20,7 @@ std::string names(const MVItemFolder& folder)
 
 std::string error_of(std::u16string_view path, MVItemsSet& set)
 {
-    try {
-        set.add_path(path);
-    } catch (const std::exception& error) {
-        return error.what();
-    }
-    return "";
+    return ::error_of([&] { set.add_path(path); });
 }
 
 const MVItemFolder& folder_at(const MVItemsSet& set, std::size_t index)
@@ -45,7 +42,7 @@ TEST(AddPath, SelectsTopLevelNodesWithoutALook)
 {
     MVItemsSet set;
     for (const auto* path : {u"C:\\", u"Q:\\", u"\\\\server", u"\\\\SERVER\\"})
-        EXPECT_EQ(error_of(path, set), "");
+        EXPECT_EQ(error_of(path, set), "no error");
     ASSERT_EQ(set.items().size(), 4u);
     EXPECT_EQ(names(set.root()), "\\\\server/ C:/ Q:/ ");
     EXPECT_EQ(set.items()[2], set.items()[3]);
@@ -215,12 +212,7 @@ const MVItemBase& node_at(MVItemsSet& set, std::u16string path)
 
 TEST(PathAssembly, FollowsEveryOption)
 {
-    struct Case {
-        std::u16string path;
-        PathStyle style;
-        std::string expected;
-    };
-
+    using Case = std::tuple<std::u16string, PathStyle, std::string>;
     const std::u16string file = u"C:\\a\\b\\f.txt", share = u"\\\\server\\share\\f.txt";
     const Case cases[]{
         {file, {}, R"(C:\a\b\f.txt)"},
@@ -245,11 +237,11 @@ TEST(PathAssembly, FollowsEveryOption)
         {share, {.no_drive = true}, R"(\share\f.txt)"},
         {share, {.case_type = CaseType::CamelCase}, R"(server\share\fTxt)"},
     };
-    for (const Case& c : cases) {
+    for (const auto& [path, style, expected] : cases) {
         MVItemsSet set;
         std::u16string text = u"before ";
-        node_at(set, c.path).append_path(text, c.style);
-        EXPECT_EQ(to_utf8(text), "before " + c.expected);
+        node_at(set, path).append_path(text, style);
+        EXPECT_EQ(to_utf8(text), "before " + expected);
     }
 }
 

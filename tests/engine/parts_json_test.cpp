@@ -6,6 +6,7 @@
 #include "engine/parts/path_part.h"
 #include "engine/parts/size_part.h"
 #include "engine/parts/text_part.h"
+#include "support/error_of.h"
 
 #include <gtest/gtest.h>
 
@@ -17,13 +18,11 @@ namespace {
 std::string rewritten(std::string json)
 {
     std::ranges::replace(json, '\'', '"');
-    try {
-        std::string text = boost::json::serialize(ItemPartsList(boost::json::parse(json)).to_json());
-        std::ranges::replace(text, '"', '\'');
-        return text;
-    } catch (const std::exception& error) {
-        return error.what();
-    }
+    std::string text;
+    const std::string error =
+        error_of([&] { text = boost::json::serialize(ItemPartsList(boost::json::parse(json)).to_json()); });
+    std::ranges::replace(text, '"', '\'');
+    return text.empty() ? error : text;
 }
 
 TEST(PartsJson, WritesBackWhatItReadInAStableOrder)
@@ -106,25 +105,19 @@ TEST(PartsJson, BadInputIsRefusedWithItsReason)
 
 TEST(PartsJson, ValuesOutsideTheTablesAreNotWritten)
 {
-    const auto error_of = [](const ItemPartBase& part) {
-        try {
-            return boost::json::serialize(part.to_json());
-        } catch (const std::exception& error) {
-            return std::string(error.what());
-        }
-    };
+    const auto error_of_writing = [](const ItemPartBase& part) { return error_of([&] { part.to_json(); }); };
     ItemPartName name;
     name.set_name_type(ItemPartName::NameType(7));
-    EXPECT_EQ(error_of(name), "Unknown ItemPartName::NameType 7");
+    EXPECT_EQ(error_of_writing(name), "Unknown ItemPartName::NameType 7");
     ItemPartPath path;
     path.set_path_type(ItemPartPath::PathType(7));
-    EXPECT_EQ(error_of(path), "Unknown ItemPartPath::PathType 7");
+    EXPECT_EQ(error_of_writing(path), "Unknown ItemPartPath::PathType 7");
     ItemPartSize size;
     size.set_size_format(ItemPartSize::SizeFormat(6));
-    EXPECT_EQ(error_of(size), "Unknown ItemPartSize::SizeFormat value");
+    EXPECT_EQ(error_of_writing(size), "Unknown ItemPartSize::SizeFormat value");
     ItemPartDate date;
     date.set_date_format(ItemPartDate::DateFormat(21));
-    EXPECT_EQ(error_of(date), "Unknown ItemPartDate::DateFormat value");
+    EXPECT_EQ(error_of_writing(date), "Unknown ItemPartDate::DateFormat value");
     EXPECT_THROW(ItemPartFactory::create(ItemPartBase::Type(10)), std::runtime_error);
 }
 

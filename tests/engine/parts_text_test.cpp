@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <tuple>
 
 namespace {
 
@@ -111,13 +112,7 @@ TEST(PathPart, CountsFoldersOfFilesAndOfParentsAlike)
 TEST(SizePart, RoundsUpAndChoosesUnits)
 {
     using enum ItemPartSize::SizeFormat;
-
-    struct Case {
-        std::uint64_t bytes;
-        ItemPartSize::SizeFormat format;
-        std::string expected;
-    };
-
+    using Case = std::tuple<std::uint64_t, ItemPartSize::SizeFormat, std::string>;
     const Case cases[]{{0, TBytes, "0"},
                        {0, Auto, "0B"},
                        {1, KBytes, "1"},
@@ -132,8 +127,8 @@ TEST(SizePart, RoundsUpAndChoosesUnits)
                        {std::uint64_t{5000} << 40, Auto, "5000T"},
                        {1234567, Bytes, "1234567"},
                        {1, ItemPartSize::SizeFormat(9), "1"}};
-    for (const Case& c : cases)
-        EXPECT_EQ(to_utf8(size_text(c.bytes, c.format, false)), c.expected) << c.bytes;
+    for (const auto& [bytes, format, expected] : cases)
+        EXPECT_EQ(to_utf8(size_text(bytes, format, false)), expected) << bytes;
     EXPECT_EQ(to_utf8(size_text(1234567, Bytes, true)), "1,234,567");
     EXPECT_EQ(text_of_part(ItemPartSize(), *named(u"folder", 7, true)), "");
 }

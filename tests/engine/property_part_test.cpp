@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <tuple>
 
 namespace {
 
@@ -22,12 +23,7 @@ ItemPartProperty part(std::string json)
 
 TEST(PropertyPart, FormatsRawValues)
 {
-    struct Case {
-        std::string format;
-        PropertyValue value;
-        std::string expected;
-    };
-
+    using Case = std::tuple<std::string, PropertyValue, std::string>;
     const std::string numeric = "'value-type':'numeric'", grouped = numeric + ",'add-thousands-separator':true",
                       duration = "'value-type':'duration'", rounded = duration + ",'round-to-seconds':true",
                       size = "'value-type':'size','size-format':'";
@@ -62,8 +58,8 @@ TEST(PropertyPart, FormatsRawValues)
          FileTimeValue{133'540'961'430'000'000}, "03"},
         {"'value-type':'datetime'", std::u16string(u"x"), ""},
     };
-    for (const Case& c : cases)
-        EXPECT_EQ(to_utf8(part("'custom-format':true," + c.format).formatted(c.value)), c.expected) << c.format;
+    for (const auto& [format, value, expected] : cases)
+        EXPECT_EQ(to_utf8(part("'custom-format':true," + format).formatted(value)), expected) << format;
     EXPECT_EQ(part("'custom-format':true," + numeric).formatted(1e300).size(), 301u);
 }
 

@@ -188,19 +188,6 @@ TEST_F(Runner, IsIdleOnlyWhenACancelledRunHasReallyEnded)
     EXPECT_EQ(told, 2);
 }
 
-TEST_F(Runner, TheCommandIsCopiedAtTheRequest)
-{
-    VellumarkThread thread(watcher_, items_);
-    VellumarkCommand command = literal("before");
-    for (std::uint32_t id = 1; id <= 200; ++id) {
-        thread.request(&command, id);
-        command.set_start_text(u"after " + decimal_text(id));
-        command.file_parts()->append(*command.file_parts()->begin());
-    }
-    const auto texts = watcher_.texts(1);
-    EXPECT_EQ(texts.front().find("after 200"), std::string::npos);
-}
-
 TEST_F(Runner, AFailedRunIsToldAndAnswered)
 {
     watcher_.during = [] { throw std::runtime_error("no luck"); };

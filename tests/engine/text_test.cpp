@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace {
 
 std::string bytes(std::u16string_view text)
@@ -36,11 +38,7 @@ TEST(Utf, LoneSurrogatesAreReplacedAndPairsStayWholeAcrossBlocks)
 
 TEST(CaseTypes, Convert)
 {
-    struct Case {
-        CaseType type;
-        std::u16string_view from, to;
-    };
-
+    using Case = std::tuple<CaseType, std::u16string_view, std::u16string_view>;
     const Case cases[]{
         {CaseType::Unchanged, u"aB \u00C9", u"aB \u00C9"},
         {CaseType::UpperCase, u"stra\u00DFe \u00E9t\u00E9", u"STRA\u00DFE \u00E9T\u00E9"},
@@ -67,8 +65,8 @@ TEST(CaseTypes, Convert)
         {CaseType::CamelCase, u"-- ..", u""},
         {CaseType::SnakeCase, u"", u""},
     };
-    for (const Case& c : cases)
-        EXPECT_EQ(bytes(MVCaseTypeUtils::convert(c.type, c.from)), bytes(c.to)) << bytes(c.from);
+    for (const auto& [type, from, to] : cases)
+        EXPECT_EQ(bytes(MVCaseTypeUtils::convert(type, from)), bytes(to)) << bytes(from);
 }
 
 TEST(CaseTypes, StringsFallBackToUnchanged)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/items/mv_items_set.h"
+#include "support/becomes.h"
 #include "support/temp_folder.h"
 #include "ui/preview/preview_generator.h"
 
@@ -53,5 +54,5 @@ private:
 
 inline bool settles(const PreviewGenerator& generator)
 {
-    return QTest::qWaitFor([&] { return !generator.is_updating(); }, 60'000);
+    return becomes([&] { return !generator.is_updating(); });
 }

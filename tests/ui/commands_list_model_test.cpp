@@ -1,4 +1,5 @@
 #include "list_fixture.h"
+#include "support/becomes.h"
 #include "support/temp_folder.h"
 #include "ui/colours.h"
 #include "ui/lists/commands_comparison.h"
@@ -6,7 +7,8 @@
 #include <QElapsedTimer>
 #include <QFont>
 #include <QIcon>
-#include <QTest>
+
+#include <tuple>
 
 namespace {
 
@@ -53,17 +55,7 @@ TEST_F(CommandsListRows, TextsAndMarks)
               model.index(4, 0).data(Qt::DecorationRole).value<QIcon>().pixmap(16).toImage());
 }
 
-TEST_F(CommandsListRows, MenuButton)
-{
-    const QModelIndex button = app.menu.model().index(0, CommandsListModel::MenuColumn);
-    EXPECT_EQ(button.data().toString(), u"\u22EF");
-    EXPECT_EQ(button.data(Qt::FontRole).value<QFont>().weight(), 700);
-    EXPECT_NEAR(button.data(Qt::FontRole).value<QFont>().pointSizeF(), QFontInfo(QFont()).pointSizeF() + 10, 0.01);
-    EXPECT_EQ(button.data(Qt::TextAlignmentRole).toInt(), int(Qt::AlignCenter));
-    EXPECT_FALSE(button.data(Qt::AccessibleTextRole).toString().isEmpty());
-}
-
-TEST_F(CommandsListRows, Flags)
+TEST_F(CommandsListRows, FlagsAndMenuButton)
 {
     const CommandsListModel& model = app.menu.model();
     const Qt::ItemFlags mark = model.flags(model.index(0, 0));
@@ -71,6 +63,9 @@ TEST_F(CommandsListRows, Flags)
     EXPECT_FALSE(mark.testAnyFlags(Qt::ItemIsEditable | Qt::ItemIsDropEnabled));
     EXPECT_EQ(model.flags(model.index(0, 1)), mark | Qt::ItemIsEditable);
     EXPECT_EQ(model.flags({}), Qt::ItemIsDropEnabled);
+    const QModelIndex button = model.index(0, CommandsListModel::MenuColumn);
+    EXPECT_EQ(button.data().toString(), u"\u22EF");
+    EXPECT_FALSE(button.data(Qt::AccessibleTextRole).toString().isEmpty());
 }
 
 std::vector<QColor> colours_of(const CommandsListModel& model)
@@ -122,13 +117,13 @@ TEST_F(CommandsListRows, SlowFiltersAreAnsweredLater)
         set_filter(row, u"(j|J)(p|P)e?g$");
     const QColor shown = colours::file_name_command_shown(), hidden = colours::file_name_command_not_shown();
     EXPECT_EQ(colours_of(app.menu.model()), (std::vector{shown, shown, shown}));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return colours_of(app.menu.model()) == std::vector{hidden, hidden, shown}; }));
+    EXPECT_TRUE(becomes([&] { return colours_of(app.menu.model()) == std::vector{hidden, hidden, shown}; }));
     set_filter(0, u"png");
     EXPECT_EQ(colours_of(app.menu.model()), (std::vector{shown, hidden, shown})) << "asked anew after a change";
     app.items->reset();
     app.items->add_path(folder.write("image.jpg"));
     app.menu.model().refresh_rows();
-    EXPECT_TRUE(QTest::qWaitFor([&] {
+    EXPECT_TRUE(becomes([&] {
         return colours_of(app.menu.model()) == std::vector{hidden, shown, shown};
     })) << "and for another selection";
 }
@@ -169,21 +164,11 @@ TEST(CommandsComparison, LeavesOutTheLastSession)
         return commands;
     };
 
-    struct Row {
-        QStringList left, right;
-        bool same;
-    };
-
-    for (const auto& [left, right, same] : std::vector<Row>{
-             {{}, {}, true},
-             {{"A", "B"}, {"A", "B"}, true},
-             {{"A", "B"}, {"B", "A"}, false},
-             {{"A", "B"}, {"A"}, false},
-             {{"A"}, {"A", "B"}, false},
-             {{"~A", "B", "~C"}, {"B"}, true},
-             {{"B"}, {"B", "~C"}, true},
-             {{"A", "~B"}, {"A", "B"}, false},
-         })
+    using Row = std::tuple<QStringList, QStringList, bool>;
+    for (const auto& [left, right, same] :
+         {Row{{}, {}, true}, Row{{"A", "B"}, {"A", "B"}, true}, Row{{"A", "B"}, {"B", "A"}, false},
+          Row{{"A", "B"}, {"A"}, false}, Row{{"A"}, {"A", "B"}, false}, Row{{"~A", "B", "~C"}, {"B"}, true},
+          Row{{"B"}, {"B", "~C"}, true}, Row{{"A", "~B"}, {"A", "B"}, false}})
         EXPECT_EQ(same_commands(marked(left), marked(right)), same) << left.join(' ').toStdString();
 }
 

@@ -4,6 +4,8 @@
 #include <QMimeData>
 #include <QSignalSpy>
 
+#include <tuple>
+
 namespace {
 
 using CommandsListUndo = ListFixture;
@@ -25,29 +27,14 @@ TEST_F(CommandsListUndo, Select)
 
 TEST_F(CommandsListUndo, Delete)
 {
-    struct Row {
-        std::vector<int> rows; ///< the last one is current
-        std::string after;
-    };
-
-    for (const Row& row : std::vector<Row>{
-             {{0}, ">B C D Save"},
-             {{3}, "A B >C Save"},
-             {{0, 2}, "B >D Save"},
-             {{3, 2}, "A >B Save"},
-             {{1, 0, 3, 2}, "Save"},
-         }) {
-        select_rows(row.rows);
-        const std::string before = menu_shown();
-        app.menu.delete_selected();
-        EXPECT_EQ(menu_shown(), row.after);
-        EXPECT_EQ(app.stack.undoText(), "Delete Command");
-        app.stack.undo();
-        EXPECT_EQ(app.menu.current_index(), row.rows.back());
-        EXPECT_EQ(app.menu.commands().size(), 4U);
-        app.stack.redo();
-        EXPECT_EQ(menu_shown(), row.after);
-        app.stack.undo();
+    const std::vector<std::pair<std::vector<int>, std::string>> cases{{{0}, ">B C D Save"},
+                                                                      {{3}, "A B >C Save"},
+                                                                      {{0, 2}, "B >D Save"},
+                                                                      {{3, 2}, "A >B Save"},
+                                                                      {{1, 0, 3, 2}, "Save"}};
+    for (const auto& [rows, after] : cases) {
+        select_rows(rows);
+        expect_step("Delete Command", after, [&] { app.menu.delete_selected(); });
     }
     app.menu.selection().clearSelection();
     const int steps = app.stack.index();
@@ -84,7 +71,7 @@ TEST_F(CommandsListUndo, CommitAndDiscard)
     app.menu.commit(0);
     EXPECT_TRUE(app.stack.canRedo());
 
-    FakeEditor editor(app);
+    TestEditor editor(app);
     app.editor = &editor;
     app.menu.set_current_row(1);
     auto& command = dynamic_cast<VellumarkCommand&>(*app.menu.current_command());
@@ -92,38 +79,22 @@ TEST_F(CommandsListUndo, CommitAndDiscard)
     const QSignalSpy changes(&app.menu, &CommandsListController::commands_list_changed);
     expect_step("Discard Changes", "A >B C D L (uncommitted changes)* ", [&] { app.menu.discard(1); });
     EXPECT_EQ(command.separator(), u"; ");
-    EXPECT_EQ(editor.refreshed, 4) << "by each do, undo and redo";
+    EXPECT_EQ(editor.calls, "refresh refresh refresh refresh ") << "by each do, undo and redo";
     EXPECT_EQ(changes.count(), 4);
 }
 
 TEST_F(CommandsListUndo, ReorderByDragging)
 {
-    struct Row {
-        std::vector<int> dragged; ///< the last one is current
-        int target;
-        std::string after;
-    };
-
     CommandsListModel& model = app.menu.model();
-    for (const Row& row : std::vector<Row>{
-             {{0}, 4, "B C D >A Save"},
-             {{3}, 0, ">D A B C Save"},
-             {{3, 1}, 0, ">B D A C Save"},
-             {{0, 2}, -1, "B D A >C Save"},
-             {{1, 3}, 1, "A B >D C Save"},
-         }) {
-        select_rows(row.dragged);
-        const int steps = app.stack.index();
-        ASSERT_TRUE(drop(model, app.menu.selection().selectedIndexes(), row.target));
-        EXPECT_EQ(app.stack.index(), steps + 1);
-        EXPECT_EQ(app.stack.undoText(), "Undo Reorder Commands");
-        EXPECT_EQ(menu_shown(), row.after);
-        app.stack.undo();
-        EXPECT_EQ(app.menu.current_index(), row.dragged.back());
-        EXPECT_FALSE(app.menu.is_modified());
-        app.stack.redo();
-        EXPECT_EQ(menu_shown(), row.after);
-        app.stack.undo();
+    const std::vector<std::tuple<std::vector<int>, int, std::string>> cases{{{0}, 4, "B C D >A Save"},
+                                                                            {{3}, 0, ">D A B C Save"},
+                                                                            {{3, 1}, 0, ">B D A C Save"},
+                                                                            {{0, 2}, -1, "B D A >C Save"},
+                                                                            {{1, 3}, 1, "A B >D C Save"}};
+    for (const auto& [rows, target, after] : cases) {
+        select_rows(rows);
+        expect_step("Undo Reorder Commands", after,
+                    [&, to = target] { EXPECT_TRUE(drop(model, app.menu.selection().selectedIndexes(), to)); });
     }
     const QModelIndexList second{model.index(1, 0), model.index(1, 1), model.index(1, 2)};
     for (const int target : {1, 2})

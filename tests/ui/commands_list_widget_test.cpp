@@ -147,7 +147,7 @@ TEST_F(CommandsListUse, AChangeKeepsThePlace)
 
 TEST_F(CommandsListUse, WhatTheMenuOffers)
 {
-    FakeEditor editor(app);
+    TestEditor editor(app);
     app.menu.set_commands(commands_named({"A", "B", "=C"}));
     app.menu.set_current_row(0);
     EXPECT_EQ(entries(widget, 0), "Rename, Delete, Move to Commands Library") << "no editor";
@@ -172,7 +172,7 @@ TEST_F(CommandsListUse, WhatTheMenuOffers)
 
 TEST_F(CommandsListUse, WhatTheMenuDoes)
 {
-    FakeEditor editor(app);
+    TestEditor editor(app);
     app.editor = &editor;
     const QSignalSpy moves(&widget, &CommandsListWidget::move_commands);
     run_entry("Duplicate", 0);

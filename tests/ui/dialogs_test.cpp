@@ -1,57 +1,20 @@
-#include "engine/commands/vellumark_command.h"
-#include "engine/items/mv_items_set.h"
-#include "fake_app.h"
 #include "store/mv_command_builtin.h"
-#include "support/fake_clipboard.h"
-#include "support/temp_folder.h"
+#include "support/browser.h"
+#include "support/visible_labels.h"
 #include "ui/dialogs/about_dlg.h"
 #include "ui/dialogs/change_command_name_dlg.h"
 #include "ui/dialogs/checksum_compare_dlg.h"
-#include "ui/dialogs/no_commands_widget.h"
 #include "ui/text.h"
 
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QDesktopServices>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSignalSpy>
-#include <QTest>
-#include <QUrl>
-
-#include <stdexcept>
 
 namespace {
-
-/// The texts of the labels in the order of their making, one a line.
-QString label_texts(const QWidget& widget)
-{
-    QStringList texts;
-    for (const QLabel* label : widget.findChildren<QLabel*>())
-        if (!label->text().isEmpty())
-            texts += label->text();
-    return texts.join('\n');
-}
-
-TEST(NoCommandsWidget, SaysWhyAndOffersTheDefaults)
-{
-    FakeApp app;
-    NoCommandsWidget page(app);
-    const auto* button = page.findChild<QPushButton*>();
-    const auto state = [&](bool is_library, bool is_empty) {
-        page.set_state(is_library, is_empty);
-        return label_texts(page) + (button->isHidden() ? "" : " [" + button->text() + "]");
-    };
-    EXPECT_EQ(state(true, true), "Commands library is empty");
-    EXPECT_EQ(state(false, true), "Context menu commands list is empty [Reset to default commands list]");
-    QTest::mouseClick(page.findChild<QPushButton*>(), Qt::LeftButton);
-    EXPECT_EQ(app.calls, "reset ");
-    EXPECT_EQ(state(true, false), "Select a command");
-    EXPECT_EQ(state(false, false), "Select a command");
-}
 
 TEST(ChangeCommandNameDlg, KeepsBothTextsOnOk)
 {
@@ -82,8 +45,9 @@ TEST(ChecksumCompareDlg, ShowsBothChecksumsReadably)
         const ChecksumComparison comparison{u"ABCD", equal ? u"abcd" : u"<b>1", u"CRC32", equal};
         ChecksumCompareDlg dialog(comparison);
         ASSERT_NE(dialog.palette().color(QPalette::WindowText), QColor(Qt::black));
-        EXPECT_EQ(label_texts(dialog),
-                  equal ? "Clipboard:\nABCD\nFile:\nabcd\nMATCH" : "Clipboard:\nABCD\nFile:\n<b>1\nNO MATCH");
+        dialog.show();
+        EXPECT_EQ(visible_labels(dialog),
+                  equal ? "Clipboard:|ABCD|File:|abcd|MATCH" : "Clipboard:|ABCD|File:|<b>1|NO MATCH");
         for (const QLabel* label : dialog.findChildren<QLabel*>())
             if (label->textInteractionFlags() & Qt::TextSelectableByMouse) {
                 EXPECT_EQ(label->palette().color(QPalette::WindowText), QColor(Qt::black));
@@ -95,68 +59,22 @@ TEST(ChecksumCompareDlg, ShowsBothChecksumsReadably)
     QApplication::setPalette(before);
 }
 
-TEST(CompareWithClipboard, ReadsWhenItMattersAndAlwaysCloses)
-{
-    const TempFolder folder;
-    const MVItemsSet set(folder.write("file"));
-    const VellumarkCommand command(
-        boost::json::parse(
-            R"({"name": "sums", "separator": "", "fileParts": [{"item-type": "checksum", "checksum-type": "crc32"}]})")
-            .as_object());
-
-    struct Case {
-        std::optional<std::u16string> copied;
-        std::u16string_view generated;
-        bool can_open, found;
-        std::string_view calls;
-    };
-
-    for (const Case& c : std::initializer_list<Case>{{u"CRC32: 0xCBF43926", u"cbf43926", true, true, "orc"},
-                                                     {std::nullopt, u"cbf43926", true, false, "orc"},
-                                                     {u"CBF43926", u"cbf43926", false, false, "o"},
-                                                     {u"CBF43926", u"", true, false, ""}}) {
-        FakeClipboard clipboard;
-        clipboard.text = c.copied;
-        clipboard.can_open = c.can_open;
-        const auto comparison = compare_with_clipboard(clipboard, command, set, c.generated);
-        EXPECT_EQ(comparison.has_value(), c.found);
-        EXPECT_EQ(clipboard.calls, c.calls);
-        if (comparison) {
-            EXPECT_EQ(comparison->clipboard_checksum, u"CBF43926");
-            EXPECT_TRUE(comparison->matches);
-        }
-    }
-}
-
-/// Takes the place of the desktop's browser.
-class Browser : public QObject
-{
-    Q_OBJECT
-
-public slots:
-
-    void open(const QUrl& url) { opened = url; }
-
-public:
-    QUrl opened;
-};
-
 TEST(AboutDlg, TellsTheVersionAndLeadsToTheWebSite)
 {
     AboutDlg dialog;
-    EXPECT_TRUE(label_texts(dialog).contains("v4.7.2.0-IN"));
+    dialog.show();
+    EXPECT_NE(visible_labels(dialog).find("v4.7.2.0-IN"), std::string::npos);
     QPalette palette;
     palette.setColor(QPalette::Link, QColor(0x12, 0x34, 0x56));
     dialog.setPalette(palette);
-    EXPECT_TRUE(label_texts(dialog).contains(
-        R"(<a href="link" style="color:#123456; text-decoration:underline;">vellumark.example</a>)"));
+    EXPECT_NE(visible_labels(dialog).find(
+                  R"(<a href="link" style="color:#123456; text-decoration:underline;">vellumark.example</a>)"),
+              std::string::npos);
 
-    Browser browser;
-    QDesktopServices::setUrlHandler("https", &browser, "open");
+    const Browser browser;
     for (QLabel* label : dialog.findChildren<QLabel*>())
         emit label->linkActivated("link");
-    QDesktopServices::unsetUrlHandler("https");
-    EXPECT_EQ(browser.opened, QUrl("https://vellumark.example"));
+    EXPECT_EQ(browser.opened(), "https://vellumark.example");
 }
 
 TEST(AboutDlg, MarksTheBuildByItsFolder)
@@ -167,5 +85,3 @@ TEST(AboutDlg, MarksTheBuildByItsFolder)
 }
 
 }
-
-#include "dialogs_test.moc"

@@ -44,21 +44,3 @@ public:
     CommandControllerBase* editor = nullptr;
     std::string calls;
 };
-
-/// An editor without a page.
-class FakeEditor final : public CommandControllerBase
-{
-public:
-    using CommandControllerBase::CommandControllerBase;
-
-    CommandMainWidgetBase* create_main_widget(QWidget*) override { return nullptr; }
-
-    bool set_current_command(const std::shared_ptr<MVCommandBase>&) override { return true; }
-
-    void refresh() override { ++refreshed; }
-
-    bool allows_duplicate() const override { return duplicates; }
-
-    int refreshed = 0;
-    bool duplicates = true;
-};

@@ -3,6 +3,7 @@
 #include "engine/commands/vellumark_command.h"
 #include "fake_app.h"
 #include "store/mv_command_builtin.h"
+#include "support/test_editor.h"
 #include "ui/lists/commands_list_model.h"
 #include "ui/lists/commands_list_widget.h"
 #include "ui/lists/commands_selection_model.h"
@@ -65,11 +66,13 @@ protected:
                     (row == rows.front() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::Select));
     }
 
-    /// Expects the states before, after, and after undo and redo of whatever `act` does in one step.
+    /// Expects the states before, after, and after undo and redo of whatever `act` does in one step. Of several
+    /// selected rows undo selects the current one alone.
     template <typename Act>
     void expect_step(const std::string& text, const std::string& after, Act act)
     {
-        const std::string before = menu_shown();
+        std::string before = menu_shown();
+        std::erase(before, '+');
         const int steps = app.stack.index();
         act();
         EXPECT_EQ(menu_shown(), after) << text;

@@ -42,7 +42,7 @@ protected:
         QSignalSpy progress(generator_.get(), &PreviewGenerator::progress_changed);
         generator_->set_command(checksums());
         const auto has_begun = [&] { return !progress.isEmpty() && !progress.back()[1].toString().isEmpty(); };
-        EXPECT_TRUE(QTest::qWaitFor(has_begun, 60'000));
+        EXPECT_TRUE(becomes(has_begun));
     }
 
     /// Without its events, which would bring the text.
@@ -55,7 +55,7 @@ protected:
 
     bool stops_reading()
     {
-        return QTest::qWaitFor([this] { return !generator_->is_reading(); }, 60'000);
+        return becomes([this] { return !generator_->is_reading(); });
     }
 
     TempFolder folder_;
@@ -71,11 +71,13 @@ TEST_F(PreviewGeneratorTest, BurstBringsOneText)
 {
     start_endless_run();
     std::string updates = log_.text();
+    generator_->begin_batch();
+    EXPECT_TRUE(generator_->defer_updates());
     for (int i = 0; i < 100; ++i) {
         generator_->set_command(literal(std::to_string(i)));
         updates += "...";
     }
-    EXPECT_TRUE(generator_->is_updating());
+    EXPECT_TRUE(generator_->is_updating() && !generator_->defer_updates());
     EXPECT_TRUE(settles(*generator_));
     QTest::qWait(50);
     EXPECT_EQ(log_.text(), updates + "[99]");
@@ -108,17 +110,6 @@ TEST_F(PreviewGeneratorTest, NoCommandEmptiesTheTextDuringARun)
     EXPECT_EQ(log_.text(), "...[]...[endless]");
 }
 
-TEST_F(PreviewGeneratorTest, GoesInTheMiddleOfARun)
-{
-    start_endless_run();
-    QElapsedTimer time;
-    time.start();
-    generator_.reset();
-    EXPECT_LT(time.elapsed(), 60'000);
-    QTest::qWait(10);
-    EXPECT_EQ(log_.text(), "...");
-}
-
 TEST_F(PreviewGeneratorTest, StartsNothingWhileASelectionWaits)
 {
     start_endless_run();
@@ -126,7 +117,7 @@ TEST_F(PreviewGeneratorTest, StartsNothingWhileASelectionWaits)
     generator_->stop_reading();
     EXPECT_TRUE(generator_->is_reading()) << "the worker can't have noticed yet";
     generator_->set_command(names());
-    EXPECT_TRUE(QTest::qWaitFor([this] { return readers_.ended > 0; }, 60'000));
+    EXPECT_TRUE(becomes([this] { return readers_.ended > 0; }));
     QTest::qWait(50);
     EXPECT_TRUE(!generator_->is_reading() && generator_->is_updating());
     EXPECT_EQ(log_.text(), "......");
@@ -154,12 +145,10 @@ TEST_F(PreviewGeneratorTest, SuspendedItWorksNot)
     EXPECT_EQ(log_.text(), ".........[endless][]");
 }
 
-TEST_F(PreviewGeneratorTest, ProgressIsToldAndForgotten)
+TEST_F(PreviewGeneratorTest, ProgressComesSlowlyAndEndsWithTheRun)
 {
     QSignalSpy progress(generator_.get(), &PreviewGenerator::progress_changed);
     start_endless_run();
-    EXPECT_EQ(progress.back()[0], "Computing checksums...");
-    EXPECT_TRUE(progress.back()[1].toString().endsWith("\\endless"));
     progress.clear();
     QElapsedTimer time;
     time.start();
@@ -170,13 +159,4 @@ TEST_F(PreviewGeneratorTest, ProgressIsToldAndForgotten)
     progress.clear();
     QTest::qWait(150);
     EXPECT_TRUE(progress.isEmpty());
-}
-
-TEST_F(PreviewGeneratorTest, ACommandEndsABatch)
-{
-    EXPECT_FALSE(generator_->defer_updates());
-    generator_->begin_batch();
-    EXPECT_TRUE(generator_->defer_updates());
-    generator_->set_command(names());
-    EXPECT_FALSE(generator_->defer_updates());
 }

@@ -1,3 +1,4 @@
+#include "support/becomes.h"
 #include "ui/preview/preview_text_edit.h"
 #include "ui/preview/text_pieces.h"
 
@@ -89,7 +90,7 @@ QString lines(int count)
 
 bool fills(const PreviewTextEdit& edit)
 {
-    return QTest::qWaitFor([&] { return !edit.is_filling(); }, 60'000);
+    return becomes([&] { return !edit.is_filling(); });
 }
 
 }
@@ -108,23 +109,21 @@ TEST(TextPieces, EveryPlaceLeadsBackIntoTheText)
 
 TEST(TextPieces, FoldsOnlyWhatTakesTooLongToPaint)
 {
-    struct Case {
-        int lines, units, paragraphs;
-    };
-
+    using Case = std::array<int, 3>;
     const auto folded = [](int length) { return (length - 1) / int{TextPieces::fold} + 1; };
-    for (const Case& c : {Case{1, 5'000, 1}, Case{1, int{whole}, 1}, Case{1, int{whole} + 1, folded(whole + 1)},
-                          Case{10'000, 500, 10'000}, Case{15, 2'000, 15}, Case{200, 2'000, 16 + 184 * folded(2'000)},
-                          Case{1, 500'000, folded(500'000)}}) {
-        const Shown all = shown((QString(c.units, u'x') + u'\n').repeated(c.lines), 1'000, 100'000);
+    for (const auto& [lines, units, expected] :
+         {Case{1, 5'000, 1}, Case{1, int{whole}, 1}, Case{1, int{whole} + 1, folded(whole + 1)},
+          Case{10'000, 500, 10'000}, Case{15, 2'000, 15}, Case{200, 2'000, 16 + 184 * folded(2'000)},
+          Case{1, 500'000, folded(500'000)}}) {
+        const Shown all = shown((QString(units, u'x') + u'\n').repeated(lines), 1'000, 100'000);
         const QStringList paragraphs = all.text.split(u'\n');
-        EXPECT_EQ(paragraphs.size() - 1, c.paragraphs) << c.lines << " of " << c.units;
+        EXPECT_EQ(paragraphs.size() - 1, expected) << lines << " of " << units;
         qsizetype place = 0, folds = 0;
         for (const QString& paragraph : paragraphs) {
             folds += all.pieces.continues_line(place) ? 1 : 0;
             place += paragraph.size() + 1;
         }
-        EXPECT_EQ(folds, c.paragraphs - c.lines);
+        EXPECT_EQ(folds, expected - lines);
     }
 }
 

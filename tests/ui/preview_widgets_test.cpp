@@ -1,5 +1,7 @@
 #include "engine/items/mv_items_set.h"
+#include "support/becomes.h"
 #include "support/temp_folder.h"
+#include "support/visible_labels.h"
 #include "ui/colours.h"
 #include "ui/preview/clipboard_preview_container_widget.h"
 #include "ui/preview/elided_label.h"
@@ -20,16 +22,6 @@
 
 namespace {
 
-/// The texts of the labels that can be seen, joined.
-std::string visible_labels(const QWidget& widget)
-{
-    QStringList texts;
-    for (const auto* label : widget.findChildren<QLabel*>())
-        if (label->isVisible() && !label->text().isEmpty())
-            texts += label->text();
-    return texts.join('|').toStdString();
-}
-
 QRgb background(QWidget& edit)
 {
     return edit.grab().toImage().pixel(edit.width() / 2, edit.height() - 5);
@@ -43,7 +35,11 @@ TEST(ClipboardPreview, ShowsTextOrWorkOrHelp)
     auto& edit = *preview.findChild<PreviewTextEdit*>();
     preview.resize(400, 300);
     preview.show();
-    EXPECT_TRUE(edit.isVisible());
+    EXPECT_TRUE(edit.isVisible() && edit.isReadOnly());
+    EXPECT_EQ(edit.textInteractionFlags(), Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    EXPECT_EQ(edit.tabStopDistance(), 30.0);
+    EXPECT_EQ(edit.lineWrapMode(), QPlainTextEdit::NoWrap);
+    EXPECT_TRUE(QFontInfo(edit.font()).fixedPitch());
     preview.show_updating();
     EXPECT_EQ(visible_labels(preview), "Updating...");
     preview.show_progress("Computing checksums...", "C:\\a");
@@ -55,24 +51,9 @@ TEST(ClipboardPreview, ShowsTextOrWorkOrHelp)
     EXPECT_EQ(visible_labels(preview), "Updating...") << "of the run before nothing is left";
     EXPECT_EQ(edit.toPlainText(), "");
     preview.show_page_for(0);
-    EXPECT_EQ(visible_labels(preview),
-              "<h2><b>No items selected</b></h2><p>To select items:</p><ul><li style='line-height: 150%;'>Open "
-              "<i>Windows File Explorer</i> (you can use the shortcut <b>Win+E</b>)</li><li style='line-height: "
-              "150%;'>Select one or more files or folders</li><li style='line-height: 150%;'>Right click on any "
-              "selected item to open the context menu</li><li style='line-height: 150%;'>In the <b>Vellumark</b> "
-              "submenu, select the <b>More Commands</b> command</li></ul>");
+    EXPECT_TRUE(visible_labels(preview).starts_with("<h2><b>No items selected</b></h2><p>To select items:</p><ul>"));
     preview.show_page_for(1);
     EXPECT_EQ(visible_labels(preview), "Updating...");
-}
-
-TEST(ClipboardPreview, EditIsReadAndSelectedByMouseAndKeyboardOnly)
-{
-    const PreviewTextEdit edit;
-    EXPECT_TRUE(edit.isReadOnly());
-    EXPECT_EQ(edit.textInteractionFlags(), Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    EXPECT_EQ(edit.tabStopDistance(), 30.0);
-    EXPECT_EQ(edit.lineWrapMode(), QPlainTextEdit::NoWrap);
-    EXPECT_TRUE(QFontInfo(edit.font()).fixedPitch());
 }
 
 TEST(ClipboardPreview, BackgroundFollowsTheScheme)
@@ -141,7 +122,7 @@ TEST(ExemplarItemProvider, ReadsPropertiesOnDemandOfTheNewestItem)
     QTest::qWait(50);
     EXPECT_EQ(read.size(), 0) << "nobody asked for the second item's";
     provider.exemplar()->properties();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !read.isEmpty(); }, 60'000));
+    ASSERT_TRUE(becomes([&] { return !read.isEmpty(); }));
     const auto& properties = *provider.exemplar()->properties();
     EXPECT_EQ(std::ranges::count(properties, ExemplarProperty{"System.FileName", "Filename", "two.txt"}), 1);
     const auto name = std::ranges::find(properties, "System.FileName", &ExemplarProperty::canonical_name);

@@ -1,3 +1,4 @@
+#include "support/becomes.h"
 #include "ui/widgets/disclosure_header.h"
 #include "ui/widgets/disclosure_triangle.h"
 #include "ui/widgets/expandable_container_widget.h"
@@ -10,13 +11,10 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
-#include <QApplication>
 #include <QPainter>
 #include <QSignalSpy>
 #include <QTest>
 #include <QVBoxLayout>
-
-#include <functional>
 
 namespace {
 
@@ -64,7 +62,7 @@ TEST(ExpandableContainerWidget, RevealsItsContentInSteps)
     container->animate_to_new_height();
     EXPECT_EQ(content->height(), 400);
     EXPECT_EQ(container->sizeHint().height(), 40);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return container->sizeHint().height() > 100; }, 1000));
+    ASSERT_TRUE(becomes([&] { return container->sizeHint().height() > 100; }));
     const int halfway = container->sizeHint().height();
     content->set_height(41);
     container->animate_to_new_height();
@@ -76,7 +74,7 @@ TEST(ExpandableContainerWidget, RevealsItsContentInSteps)
     EXPECT_EQ(container->sizeHint().height(), 41);
     window.resize(333, 100);
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return content->size() == QSize(container->width(), 41); }, 1000));
+    EXPECT_TRUE(becomes([&] { return content->size() == QSize(container->width(), 41); }));
 }
 
 TEST(Disclosure, AnswersToMouseAndKeyboard)
@@ -194,45 +192,6 @@ TEST(StackedWidget, IsAsHighAsThePageThatShows)
     stack.setCurrentWidget(&stack);
     EXPECT_EQ(stack.current_widget(), large);
     EXPECT_EQ(stack.index_of(&stack), -1);
-}
-
-/// Counts how often the widget paints.
-class PaintCounter : public QObject
-{
-public:
-    explicit PaintCounter(QWidget& widget) { widget.installEventFilter(this); }
-
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        paints += event->type() == QEvent::Paint;
-        return false;
-    }
-
-    int paints = 0;
-};
-
-/// What QWidget does at both events; our widgets rely on it.
-TEST(ColourScheme, MakesWidgetsPaintAnew)
-{
-    GripSplitter splitter(Qt::Horizontal);
-    HeaderLabel label("Label");
-    DisclosureHeader header("Header");
-    DisclosureTriangle triangle;
-    splitter.addWidget(new QWidget);
-    splitter.addWidget(new QWidget);
-    for (QWidget* top : std::initializer_list<QWidget*>{&splitter, &label, &header, &triangle}) {
-        top->resize(120, 60);
-        top->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(top));
-        QApplication::processEvents();
-        QWidget* widget = top == &splitter ? splitter.handle(1) : top;
-        for (const QEvent::Type type : {QEvent::PaletteChange, QEvent::ThemeChange}) {
-            PaintCounter counter(*widget);
-            QEvent event(type);
-            QApplication::sendEvent(widget, &event);
-            EXPECT_TRUE(QTest::qWaitFor([&] { return counter.paints > 0; }, 1000));
-        }
-    }
 }
 
 }

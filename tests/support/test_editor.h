@@ -50,6 +50,8 @@ public:
 
     void focus_name() override { calls += "focus "; }
 
+    bool allows_duplicate() const override { return duplicates; }
+
     bool run_current_command() override
     {
         calls += "run ";
@@ -65,6 +67,6 @@ public:
 
     std::shared_ptr<VellumarkCommand> current;
     std::string calls;
-    bool may_close = true;
+    bool may_close = true, duplicates = true;
     std::function<void()> before_offer; ///< what it throws, the offer of a command throws
 };
