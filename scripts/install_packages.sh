@@ -10,13 +10,13 @@ source "$(dirname -- "${BASH_SOURCE[0]}")/common.sh"
 # The names with a version are needed: Debian's unversioned Boost is 1.74, which has no JSON library; clang before 16
 # can't read the ranges of g++ 12's standard library.
 declare -Ar groups=(
-    [build]="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-tools-dev qt6-l10n-tools libqt6svg6
+    [build]="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-tools-dev qt6-l10n-tools libqt6svg6 qt6-wayland
         libssl-dev libxcb1-dev
         libexif-dev libtag1-dev libmediainfo-dev libqpdf-dev libzip-dev
         libboost-json1.81-dev libboost-filesystem1.81-dev libboost-regex1.81-dev libboost-program-options1.81-dev"
     [test]="libgtest-dev python3 strace
         xvfb openbox xdotool xclip x11-utils imagemagick dbus-daemon at-spi2-core python3-pyatspi
-        sway wl-clipboard qt6-wayland"
+        sway wl-clipboard"
     [lint]="git python3 clang-format clang-tidy-16 shellcheck"
     [bench]="libbenchmark-dev python3 openssl xxhash rhash findutils libimage-exiftool-perl"
     [fuzz]="clang-16 libclang-rt-16-dev"
