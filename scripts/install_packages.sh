@@ -11,9 +11,9 @@ source "$(dirname -- "${BASH_SOURCE[0]}")/common.sh"
 # can't read the ranges of g++ 12's standard library.
 declare -Ar groups=(
     [build]="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-tools-dev qt6-l10n-tools libqt6svg6 qt6-wayland
-        libssl-dev libxcb1-dev
+        libssl-dev libpcre2-dev libxcb1-dev
         libexif-dev libtag1-dev libmediainfo-dev libqpdf-dev libzip-dev
-        libboost-json1.81-dev libboost-filesystem1.81-dev libboost-regex1.81-dev libboost-program-options1.81-dev"
+        libboost-json1.81-dev libboost-filesystem1.81-dev libboost-program-options1.81-dev"
     [test]="libgtest-dev python3 strace
         xvfb openbox xdotool xclip x11-utils imagemagick dbus-daemon at-spi2-core python3-pyatspi
         sway wl-clipboard"

@@ -1,144 +1,170 @@
 #include "engine/filters/ecmascript_pattern.h"
 
+#include "engine/filters/pattern_atom.h"
+#include "engine/filters/pattern_text.h"
 #include "engine/text/letters.h"
+#include "engine/text/utf.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
-#include <stdexcept>
+#include <cstddef>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace {
 
-constexpr std::u16string_view known_letters = u"bBdDwWsSfnrtvcxk";
+/// The most that PCRE2 repeats; no name is that long.
+constexpr unsigned most_repeats = 65535;
 
 class Translation
 {
 public:
-    explicit Translation(std::u16string_view pattern) : rest_(pattern) {}
+    explicit Translation(std::u16string_view pattern) : pattern_(pattern) {}
 
-    std::wstring run()
+    LibraryPattern run()
     {
-        while (!rest_.empty())
+        while (!pattern_.rest().empty())
             translate_next();
+        if (!open_groups_.empty())
+            throw PatternError("the group has no end", open_groups_.back().at);
+        if (last_reference_ > groups_)
+            throw PatternError("there is no such group", reference_at_);
+        out_.has_back_references = last_reference_ > 0;
         return std::move(out_);
     }
 
 private:
-    char16_t front() const { return rest_.empty() ? u'\0' : rest_.front(); }
-
-    void copy(std::size_t count)
-    {
-        out_.append(rest_.begin(), rest_.begin() + static_cast<std::ptrdiff_t>(std::min(count, rest_.size())));
-        rest_.remove_prefix(std::min(count, rest_.size()));
-    }
-
-    /// Writes a unit that stands for itself, whatever it means elsewhere.
-    void put_literal(unsigned unit)
-    {
-        std::array<char, 8> digits{};
-        const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), unit, 16).ptr;
-        out_.append(L"\\x{").append(digits.data(), end).append(L"}");
-    }
+    struct Group {
+        std::size_t at;
+        bool is_look_ahead;
+    };
 
     void translate_next()
     {
-        const char16_t unit = front();
-        if (unit == u'\\') {
-            translate_escape(false);
-        } else if (unit == u'[') {
-            translate_class();
-        } else if (rest_.starts_with(u"(?")) {
-            if (rest_.size() < 3 || std::u16string_view(u":=!").find(rest_[2]) == std::u16string_view::npos)
-                throw std::invalid_argument("unknown group");
-            copy(3);
-        } else if (unit == u'*' || unit == u'+' || unit == u'?' || unit == u'{') {
-            translate_repeat();
+        start_ = pattern_.at();
+        const bool had_atom = std::exchange(has_atom_, false);
+        switch (const char16_t unit = pattern_.next()) {
+        case u'^':
+        case u'$':
+        case u'|': out_.text += unit; break;
+        case u'(': open_group(); break;
+        case u')': close_group(); break;
+        case u'{':
+        case u'*':
+        case u'+':
+        case u'?': translate_repeat(unit, had_atom); break;
+        case u']':
+        case u'}': throw PatternError("nothing is open", start_);
+        case u'\\': translate_escape(); break;
+        case u'[': put(read_class(pattern_)); break;
+        case u'.': put({.is_set = true, .set = u"^\n\r\u2028\u2029"}); break;
+        default: put({.unit = unit});
+        }
+    }
+
+    void put(const PatternAtom& atom)
+    {
+        out_.text += library_text(atom);
+        has_atom_ = true;
+    }
+
+    void open_group()
+    {
+        bool is_look_ahead = false;
+        out_.text += u'(';
+        if (pattern_.skip(u"?")) {
+            const char16_t kind = pattern_.next();
+            if (kind != u':' && kind != u'=' && kind != u'!')
+                throw PatternError("unknown kind of group", start_);
+            is_look_ahead = kind != u':';
+            out_.text.append({u'?', kind});
         } else {
-            copy(1);
+            ++groups_;
         }
+        open_groups_.push_back({start_, is_look_ahead});
     }
 
-    void translate_repeat()
+    void close_group()
     {
-        copy(front() == u'{' ? std::min(rest_.find(u'}'), rest_.size() - 1) + 1 : 1);
-        if (front() == u'?')
-            copy(1);
-        if (front() == u'+')
-            throw std::invalid_argument("a repeat can't be repeated");
+        if (open_groups_.empty())
+            throw PatternError("nothing is open", start_);
+        out_.text += u')';
+        has_atom_ = !open_groups_.back().is_look_ahead;
+        open_groups_.pop_back();
     }
 
-    void translate_escape(bool in_class)
+    void translate_repeat(char16_t unit, bool had_atom)
     {
-        if (rest_.size() < 2)
-            throw std::invalid_argument("nothing behind the backslash");
-        const char16_t unit = rest_[1];
-        if (unit == u'u' || (unit == u'0' && (rest_.size() == 2 || !is_ascii_digit(rest_[2]))))
-            return translate_code(unit == u'u');
-        if (in_class && unit == u'b') {
-            rest_.remove_prefix(2);
-            return put_literal(8);
-        }
-        if (is_ascii_letter(unit) && known_letters.find(unit) == known_letters.npos)
-            throw std::invalid_argument("unknown escape");
-        if (is_ascii_letter(unit) || is_ascii_digit(unit))
-            return copy(2);
-        rest_.remove_prefix(2);
-        put_literal(unit);
+        if (!had_atom)
+            throw PatternError("nothing to repeat", start_);
+        out_.text += unit == u'{' ? bounds() : std::u16string{unit};
+        if (pattern_.skip(u"?"))
+            out_.text += u'?';
     }
 
-    /// \0 and \uHHHH.
-    void translate_code(bool has_digits)
+    std::u16string bounds()
     {
-        rest_.remove_prefix(2);
-        unsigned code = 0;
-        for (int i = 0; has_digits && i < 4; ++i) {
-            const std::u16string_view digits = u"0123456789abcdef";
-            const std::size_t digit = digits.find(to_lower(front()));
-            if (rest_.empty() || digit == digits.npos)
-                throw std::invalid_argument("four hexadecimal digits expected");
-            code = code * 16 + static_cast<unsigned>(digit);
-            rest_.remove_prefix(1);
+        const unsigned least = number();
+        std::string text = "{" + std::to_string(least);
+        if (pattern_.skip(u",")) {
+            const bool has_most = is_digit_next();
+            const unsigned most = has_most ? number() : most_repeats;
+            if (most < least)
+                throw PatternError("the bounds are in the wrong order", start_);
+            text += most < most_repeats ? "," + std::to_string(most) : ",";
         }
-        put_literal(code);
+        if (!pattern_.skip(u"}"))
+            throw PatternError("these are no bounds", start_);
+        return to_utf16(text + "}");
     }
 
-    void translate_class()
+    bool is_digit_next() const { return !pattern_.rest().empty() && is_ascii_digit(pattern_.rest().front()); }
+
+    unsigned number()
     {
-        if (rest_.starts_with(u"[]")) {
-            rest_.remove_prefix(2);
-            out_ += L"(?!)";
-            return;
-        }
-        if (rest_.starts_with(u"[^]")) {
-            rest_.remove_prefix(3);
-            out_ += L"[\\s\\S]";
-            return;
-        }
-        copy(rest_.starts_with(u"[^") ? 2 : 1);
-        while (front() != u']') {
-            if (rest_.empty())
-                throw std::invalid_argument("the class has no end");
-            translate_in_class();
-        }
-        copy(1);
+        if (!is_digit_next())
+            throw PatternError("a number is missing", pattern_.at());
+        unsigned value = 0;
+        while (is_digit_next())
+            value = std::min(value * 10 + (pattern_.next() - u'0'), most_repeats);
+        return value;
     }
 
-    void translate_in_class()
+    void translate_escape()
     {
-        if (front() == u'\\')
-            return translate_escape(true);
-        const bool is_posix = rest_.starts_with(u"[:") || rest_.starts_with(u"[=") || rest_.starts_with(u"[.");
-        const std::size_t end = is_posix ? rest_.find(u']', 2) : rest_.npos;
-        copy(end == rest_.npos ? 1 : end + 1);
+        if (is_digit_next() && !pattern_.rest().starts_with(u'0'))
+            return translate_reference();
+        for (const std::u16string_view letter : {u"b", u"B"})
+            if (pattern_.skip(letter)) {
+                (out_.text += u'\\') += letter;
+                return;
+            }
+        put(read_escape(pattern_));
     }
 
-    std::u16string_view rest_;
-    std::wstring out_;
+    void translate_reference()
+    {
+        const unsigned group = number();
+        if (group > last_reference_) {
+            last_reference_ = group;
+            reference_at_ = start_;
+        }
+        out_.text += to_utf16("\\g{" + std::to_string(group) + "}");
+        has_atom_ = true;
+    }
+
+    PatternText pattern_;
+    LibraryPattern out_;
+    std::size_t start_ = 0; ///< of the term that is being read
+    bool has_atom_ = false; ///< what has been read last can be repeated
+    std::vector<Group> open_groups_;
+    unsigned groups_ = 0, last_reference_ = 0;
+    std::size_t reference_at_ = 0;
 };
 
 }
 
-std::wstring from_ecmascript(std::u16string_view pattern)
+LibraryPattern from_ecmascript(std::u16string_view pattern)
 {
     return Translation(pattern).run();
 }

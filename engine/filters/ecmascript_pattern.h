@@ -3,8 +3,14 @@
 #include <string>
 #include <string_view>
 
-/// A regular expression of ECMAScript (ECMA-262, without its "u" flag, and with the POSIX classes that C++ adds) in
-/// the syntax of Boost's Perl expressions, one wide character a UTF-16 unit. The two agree but for some escapes,
-/// empty classes and what Perl has beyond ECMAScript. Throws std::invalid_argument for such extras: letters that are
-/// no escape, groups other than (?: (?= (?!, and possessive repeats.
-std::wstring from_ecmascript(std::u16string_view pattern);
+/// A regular expression in the syntax of PCRE2.
+struct LibraryPattern {
+    std::u16string text;
+    bool has_back_references = false;
+};
+
+/// A regular expression of ECMAScript (ECMA-262, without its "u" flag and what browsers tolerate beyond it, and with
+/// the POSIX classes that C++ adds) for PCRE2 to find in text in lower case what the original finds where the case of
+/// ASCII letters is ignored. It takes PCRE2_UCP, PCRE2_DOLLAR_ENDONLY, PCRE2_ALLOW_EMPTY_CLASS and
+/// PCRE2_MATCH_UNSET_BACKREF. Throws PatternError for all that isn't ECMAScript.
+LibraryPattern from_ecmascript(std::u16string_view pattern);

@@ -83,6 +83,14 @@ TEST(ItemFilter, Matches)
         {Mode::Regex, u"^(.)\\1*?$", u"aaa", true},
         {Mode::Regex, u"[[:digit:]]x", u"7x", true},
         {Mode::Regex, u"\\.\\*\\/\\-", u".*/-", true},
+        {Mode::Regex, u"^[A-z]+\\.txt$", u"my_notes.txt", true},
+        {Mode::Regex, u"^[0-Z]+\\.txt$", u"my_notes.txt", false},
+        {Mode::Regex, u"^[Z-a][X-_][^Z-a]$", u"A_b", true},
+        {Mode::Regex, u"^[+--][a-][a-b-c][--/]$", u",--.", true},
+        {Mode::Regex, u"^\\x41\\cJ[[:upper:]][[.-.]][[:d:]_]$", u"a\nb-_", true},
+        {Mode::Regex, u"^(a)?\\1\\2(B)\\2$", u"bb", true},
+        {Mode::Regex, u"^\\d.\\s$", u"\u0663\xDC80\u00A0", true},
+        {Mode::Regex, u".", u"\n\r\u2028\u2029", false},
     };
     for (const auto& [mode, pattern, name, expected] : cases) {
         ItemFilter made = filter(mode, pattern);
@@ -112,25 +120,24 @@ std::u16string long_class(int count)
 
 TEST(ItemFilter, RunawayExpressionsEndWithoutAMatch)
 {
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__) || !defined(__OPTIMIZE__)
-    constexpr int longest = 3000; // milliseconds of processor time
-#else
-    constexpr int longest = 100;
-#endif
+    constexpr int longest = 500; // milliseconds of processor time
+    // No single unit, which a search would look for first.
+    const std::u16string none = u"[~:]";
     const std::vector<std::u16string> patterns{
-        u"^(a+)+$",
+        u"(a+)+$",
         u"^(a|aa)+$",
         u"(x+x+)+y|^(([a-z])+.)+[A-Z]([a-z])+$",
-        u"(.*?,){30}P",
-        u"((a{1,9}){1,9}){1,9}b",
-        repeated(u"[a-z0-9]*", 30) + u"~",
-        repeated(u"[a-z0-9]*?", 100) + u"~",
-        repeated(u"(.*)", 300) + u"b",
-        repeated(u"(?:", 60) + repeated(u")*", 60) + u"b",
-        repeated(u"(", 300) + u"a*" + repeated(u")*", 300) + u"b",
-        u"(?:" + repeated(u"(a*)", 2000) + u"|a)*~",
-        repeated(u"(?:a|" + long_class(1000) + u")*", 30) + u"b",
-        repeated(u"[^" + long_class(1000).substr(1) + u"*", 30) + u"~",
+        u".*.*" + none,
+        u"(a+)(a+)+\\1" + none,
+        u"((\\w{1,9}){1,9}){1,9}" + none,
+        repeated(u"[a-z0-9]*", 30) + none,
+        repeated(u"[a-z0-9]*?", 100) + none,
+        repeated(u"(.*)", 300) + none,
+        repeated(u"(", 200) + u"a*" + repeated(u")*", 200) + none,
+        u"(?:" + repeated(u"(a*)", 2000) + u"|a)*" + none,
+        u"(a*)\\1(?:" + repeated(u"(a*)", 2000) + u"|a)*" + none,
+        repeated(u"(?:a|" + long_class(1000) + u")*", 15) + none,
+        u"(?:(?=[^" + long_class(1000).substr(1) + u"*)a|(?=.*)[a9])+" + none,
     };
     for (const std::u16string& pattern : patterns) {
         const ItemFilter made = filter(Mode::Regex, pattern);
@@ -145,12 +152,12 @@ TEST(ItemFilter, RunawayExpressionsEndWithoutAMatch)
 
 TEST(ItemFilter, LongSearchesAreNoRunaways)
 {
-    const std::u16string long_name = std::u16string(250, u'x') + u"-1.txt";
+    const std::u16string long_name = u"y-2" + std::u16string(245, u'x') + u"-1.txt";
     std::u16string words = u"(?:";
     for (int i = 100; i < 900; ++i)
         words += u"x" + to_utf16(std::to_string(i)) + u"|";
     for (const std::u16string& pattern : {words + u"-1)\\.txt$", std::u16string(u"(\\w+)-(\\w+)\\.txt$"),
-                                          std::u16string(u".*.*-1"), std::u16string(u"(?=.*1)(?=.*t$)x")})
+                                          std::u16string(u".*.*-2"), std::u16string(u"(?=.*1)(?=.*t$)x")})
         EXPECT_TRUE(filter(Mode::Regex, pattern).matches(long_name)) << to_utf8(pattern.substr(0, 60));
 }
 
@@ -172,9 +179,7 @@ TEST(ItemFilter, KnowsInvalidPatterns)
     const std::vector<std::tuple<Mode, std::u16string, bool>> cases{
         {Mode::Extensions, u"", true},     {Mode::Extensions, u"a;b c", true}, {Mode::Extensions, u"a*", false},
         {Mode::Extensions, u"a\t", false}, {Mode::Wildcard, u"*?;", true},     {Mode::Wildcard, u"a|b", false},
-        {Mode::Wildcard, u"a\\b", false},  {Mode::Regex, u"[a-", false},       {Mode::Regex, u"a++", false},
-        {Mode::Regex, u"(?i)a", false},    {Mode::Regex, u"\\Qa", false},      {Mode::Regex, u"a\\", false},
-        {Mode::Regex, u"\\u12g4", false},  {Mode::Regex, u"(?<=a)b", false},   {Mode::Regex, u"[a-z]", true},
+        {Mode::Wildcard, u"a\\b", false},  {Mode::Regex, u"[a-", false},       {Mode::Regex, u"[a-z]", true},
         {Mode::Regex, u"", true}};
     for (const auto& [mode, pattern, valid] : cases)
         EXPECT_EQ(filter(mode, pattern).is_pattern_valid(), valid) << to_utf8(pattern);
