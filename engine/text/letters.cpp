@@ -3,41 +3,9 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <locale>
 
 namespace {
-
-/// Unicode's classes from the C library's own locale of that name, which every glibc since 2.35 carries; case
-/// changes for ASCII letters only.
-class UnitCtype final : public std::ctype_byname<wchar_t>
-{
-public:
-    UnitCtype() : std::ctype_byname<wchar_t>("C.UTF-8") {}
-
-protected:
-    wchar_t do_toupper(wchar_t unit) const override
-    {
-        return unit < 0x80 ? static_cast<wchar_t>(to_upper(static_cast<char16_t>(unit))) : unit;
-    }
-
-    const wchar_t* do_toupper(wchar_t* from, const wchar_t* to) const override
-    {
-        for (; from != to; ++from)
-            *from = do_toupper(*from);
-        return to;
-    }
-
-    wchar_t do_tolower(wchar_t unit) const override
-    {
-        return unit < 0x80 ? static_cast<wchar_t>(to_lower(static_cast<char16_t>(unit))) : unit;
-    }
-
-    const wchar_t* do_tolower(wchar_t* from, const wchar_t* to) const override
-    {
-        for (; from != to; ++from)
-            *from = do_tolower(*from);
-        return to;
-    }
-};
 
 /// The zeros of all scripts but ASCII; each is followed by the digits one to nine (Unicode 14, category Nd).
 constexpr std::array<char16_t, 36> zeros{0x0660, 0x06F0, 0x07C0, 0x0966, 0x09E6, 0x0A66, 0x0AE6, 0x0B66, 0x0BE6,
@@ -51,18 +19,14 @@ bool is_other_digit(char16_t unit)
     return after != zeros.begin() && unit - *std::prev(after) < 10;
 }
 
+/// Unicode's classes from the C library's own locale of that name, which every glibc since 2.35 carries.
 bool has_class(char16_t unit, std::ctype_base::mask mask)
 {
-    static const auto& facet = std::use_facet<std::ctype<wchar_t>>(letters_locale());
+    static const std::locale locale(std::locale::classic(), new std::ctype_byname<wchar_t>("C.UTF-8"));
+    static const auto& facet = std::use_facet<std::ctype<wchar_t>>(locale);
     return facet.is(mask, static_cast<wchar_t>(unit));
 }
 
-}
-
-const std::locale& letters_locale()
-{
-    static const std::locale locale(std::locale::classic(), new UnitCtype);
-    return locale;
 }
 
 bool is_digit(char16_t unit)

@@ -1,14 +1,10 @@
 #pragma once
 
-#include <locale>
 #include <string>
 #include <string_view>
 
 /// Classes and case of single UTF-16 units. The classes are Unicode's (a surrogate is in none of them); case exists
 /// for ASCII letters only. Nothing here depends on the process's locale, and all of it is safe from any thread.
-
-/// The rules below as a C++ locale, for libraries that take one.
-const std::locale& letters_locale();
 
 constexpr char16_t to_lower(char16_t unit)
 {
