@@ -65,6 +65,16 @@ bool VellumarkCommand::has_discardable_changes() const
     return command && !(fields_ == command->fields_);
 }
 
+const std::shared_ptr<ItemPartsList>& VellumarkCommand::parts(Template which) const
+{
+    return which == Template::Files ? fields_.file_parts : fields_.folder_parts;
+}
+
+void VellumarkCommand::set_parts(Template which, std::shared_ptr<ItemPartsList> parts)
+{
+    (which == Template::Files ? fields_.file_parts : fields_.folder_parts) = std::move(parts);
+}
+
 void VellumarkCommand::set_limit_folder_depth(bool limit)
 {
     fields_.limit_folder_depth = limit;

@@ -38,7 +38,19 @@ public:
     bool equals(const MVCommandBase& other) const override;
     bool has_discardable_changes() const override;
 
-    /// The template for files, and for folders as long as they have none of their own. Editors change it in place.
+    /// A command's two templates.
+    enum class Template : std::uint32_t {
+        Files, ///< for folders as well, as long as they have none of their own
+        Folders
+    };
+
+    /// Never null. Single parts are reached by their position in it, for their objects may be others after a step of
+    /// undo.
+    const std::shared_ptr<ItemPartsList>& parts(Template which) const;
+
+    /// The command keeps the list itself, which isn't null, and no copy of it.
+    void set_parts(Template which, std::shared_ptr<ItemPartsList> parts);
+
     const std::shared_ptr<ItemPartsList>& file_parts() const { return fields_.file_parts; }
 
     const std::shared_ptr<ItemPartsList>& folder_parts() const { return fields_.folder_parts; }

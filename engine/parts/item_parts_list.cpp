@@ -4,6 +4,7 @@
 #include "engine/text/json_access.h"
 
 #include <algorithm>
+#include <iterator>
 #include <stdexcept>
 #include <string>
 
@@ -57,6 +58,11 @@ ItemPartsList::ItemPartsList(const json::value& value)
     for (const json::value& element : *array)
         if (auto part = read_part(element))
             append(std::move(part));
+}
+
+std::shared_ptr<ItemPartBase> ItemPartsList::at(std::size_t position) const
+{
+    return position < size() ? *std::next(begin(), static_cast<std::ptrdiff_t>(position)) : nullptr;
 }
 
 json::array ItemPartsList::to_json() const

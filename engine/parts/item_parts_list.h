@@ -32,6 +32,9 @@ public:
 
     bool empty() const { return parts_.empty(); }
 
+    /// Null for a position that doesn't exist.
+    std::shared_ptr<ItemPartBase> at(std::size_t position) const;
+
     void append(std::shared_ptr<ItemPartBase> part) { parts_.push_back(std::move(part)); }
 
     /// `at` may be the end.
