@@ -7,8 +7,10 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPointer>
+#include <QScopedValueRollback>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -120,10 +122,22 @@ void CommandsTableView::show_menu_of_current_row()
     emit show_context_menu(cell_centre(button), button.row());
 }
 
+void CommandsTableView::commitData(QWidget* editor)
+{
+    const QScopedValueRollback committing(is_committing_, true);
+    edit_replaced_rows_ = false;
+    QTableView::commitData(editor);
+}
+
+void CommandsTableView::reset()
+{
+    QTableView::reset();
+    edit_replaced_rows_ = is_committing_;
+}
+
 void CommandsTableView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint)
 {
-    // The edit gave the list new rows, so that the editor has been taken away already.
-    if (editor && editor->isHidden())
+    if (std::exchange(edit_replaced_rows_, false))
         setFocus();
     else
         QTableView::closeEditor(editor, hint);

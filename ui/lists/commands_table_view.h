@@ -13,6 +13,8 @@ public:
     /// `model` has the columns of a CommandsListModel.
     void setModel(QAbstractItemModel* model) override;
 
+    void reset() override;
+
     /// Scrolls no further than it takes to see the row, also right after the rows were replaced.
     void show_row(const QModelIndex& index);
 
@@ -30,6 +32,7 @@ signals:
 protected:
     /// Home and End go to the first and the last row.
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    void commitData(QWidget* editor) override;
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
@@ -40,4 +43,8 @@ private:
     void set_up_headers();
     void fit_rows_to_font();
     void show_menu_of_current_row();
+
+    bool is_committing_ = false;
+    /// The edit that was taken over last gave the list new rows, and its editor went with the old ones.
+    bool edit_replaced_rows_ = false;
 };
