@@ -26,11 +26,27 @@ void CommandEditors::add(EditorList editors, MainAppUi& ui)
         editor->main_widget()->restore_settings(settings);
 }
 
-void CommandEditors::set_current_command(const std::shared_ptr<MVCommandBase>& command)
+bool CommandEditors::set_current_command(const std::shared_ptr<MVCommandBase>& command)
 {
+    if (current_ && command == command_)
+        return false;
     const auto takes = [&command](const auto& editor) { return editor->set_current_command(command); };
     const auto editor = std::ranges::find_if(editors_, takes);
     current_ = editor == editors_.end() ? nullptr : editor->get();
+    command_ = command;
+    return true;
+}
+
+void CommandEditors::suspend()
+{
+    for (const auto& editor : editors_)
+        editor->suspend();
+}
+
+void CommandEditors::resume()
+{
+    for (const auto& editor : editors_)
+        editor->resume();
 }
 
 void CommandEditors::refresh() const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/suspendable.h"
+
 #include <QObject>
 
 #include <functional>
@@ -17,7 +19,7 @@ using EditorList = std::vector<std::unique_ptr<CommandControllerBase>>;
 using MakeEditors = std::function<EditorList(AppServices&)>;
 
 /// The editors, and which of them has the current command. Main thread only.
-class CommandEditors final : public QObject
+class CommandEditors final : public QObject, public Suspendable
 {
     Q_OBJECT
 
@@ -29,14 +31,18 @@ public:
     void add(EditorList editors, MainAppUi& ui);
 
     /// Offers the command to one editor after the other. The first that takes it becomes the current one; there is
-    /// none when nobody does.
-    void set_current_command(const std::shared_ptr<MVCommandBase>& command);
+    /// none when nobody does. False when an editor has this very command already: that stays as it is.
+    bool set_current_command(const std::shared_ptr<MVCommandBase>& command);
 
     /// Null when no editor has the current command.
     CommandControllerBase* current() const { return current_; }
 
     /// The current command changed behind its editor: brings that up to date.
     void refresh() const;
+
+    /// Another page covers the editors'.
+    void suspend() override;
+    void resume() override;
 
     /// What OK does with the current command. True when the application may close at once, as it may without an
     /// editor.
@@ -49,4 +55,5 @@ signals:
 private:
     EditorList editors_;
     CommandControllerBase* current_ = nullptr;
+    std::shared_ptr<MVCommandBase> command_; ///< the current editor's
 };

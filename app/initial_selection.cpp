@@ -3,7 +3,7 @@
 #include "app/initial_command.h"
 #include "app/settings_keys.h"
 #include "store/last_command.h"
-#include "ui/lists/commands_list_controller.h"
+#include "ui/lists/command_lists.h"
 
 #include <QDebug>
 #include <QSettings>
@@ -37,16 +37,18 @@ void append_left_over(CommandsListController& menu, const std::shared_ptr<Vellum
 
 }
 
-bool select_initial_command(CommandsListController& menu, CommandsListController& library)
+void select_initial_command(CommandLists& lists)
 {
+    CommandsListController &menu = lists.menu(), &library = lists.library();
     const auto last = last_command();
     const InitialCommand initial = initial_command(last.get(), menu, library);
     if (initial.is_new)
         append_left_over(menu, last);
-    (initial.in_library ? library : menu).select_without_undo(initial.row);
     if (initial.in_library)
         restore_row(menu, settings_keys::menu_row);
     else
         restore_row(library, settings_keys::library_row);
-    return initial.in_library;
+    CommandsListController& list = initial.in_library ? library : menu;
+    list.select_without_undo(initial.row);
+    lists.activate(list);
 }

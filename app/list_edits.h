@@ -3,6 +3,7 @@
 #include <memory>
 
 class AppServices;
+class CommandLists;
 class MVCommandBase;
 class QString;
 
@@ -19,9 +20,9 @@ void duplicate(AppServices& app);
 
 /// Moves the selected commands to the end of the other list. Nothing when none is selected, or when a built-in
 /// command, which the library can't hold, would leave the menu list.
-void move_to_other_list(AppServices& app);
+void move_to_other_list(CommandLists& lists);
 
 /// Replaces the menu list by the default commands. Throws what `commands_file::load_defaults` throws.
-void reset(AppServices& app);
+void reset(CommandLists& lists);
 
 }

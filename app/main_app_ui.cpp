@@ -16,6 +16,13 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+namespace {
+
+// In the order in which the tabs are added.
+constexpr int menu_tab = 0, library_tab = 1;
+
+}
+
 MainAppUi::MainAppUi(MirvantaApp& app) : GripSplitter(Qt::Horizontal, &app), app_(app)
 {
     addWidget(make_left_pane());
@@ -120,9 +127,14 @@ void MainAppUi::enable_delete_button(bool enabled)
     delete_->setEnabled(enabled);
 }
 
-void MainAppUi::show_tab(int tab)
+void MainAppUi::show_tab_of(const CommandsListController& list)
 {
-    tabs_->setCurrentIndex(tab);
+    tabs_->setCurrentIndex(&list == &app_.library_list() ? library_tab : menu_tab);
+}
+
+CommandsListController& MainAppUi::list_of_tab(CommandLists& lists, int tab)
+{
+    return tab == library_tab ? lists.library() : lists.menu();
 }
 
 void MainAppUi::finish_edits()

@@ -5,6 +5,7 @@
 #include <vector>
 
 class CommandControllerBase;
+class CommandLists;
 class CommandMainWidgetBase;
 class CommandsListController;
 class MirvantaApp;
@@ -31,7 +32,11 @@ public:
     void show_save_button(bool visible);
     void enable_delete_button(bool enabled);
 
-    void show_tab(int tab);
+    /// Shows the tab of one of the two lists.
+    void show_tab_of(const CommandsListController& list);
+
+    /// The list of a tab that there is.
+    static CommandsListController& list_of_tab(CommandLists& lists, int tab);
 
     /// Takes over what is typed into a name that is being edited in a list.
     void finish_edits();

@@ -21,11 +21,10 @@
 #include <QPainter>
 #include <QUrl>
 
+#include <algorithm>
 #include <exception>
 
 namespace {
-
-constexpr int menu_tab = 0, library_tab = 1;
 
 /// A step of taking a selection: nothing that fails there may end the program.
 void log_failures(const auto& step)
@@ -43,9 +42,8 @@ void log_failures(const auto& step)
 
 MirvantaApp::MirvantaApp(const MakeEditors& make_editors)
     : QDialog(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint),
-      selected_items_(std::make_shared<MVItemsSet>()), menu_list_(*this), library_list_(*this),
-      stored_(menu_list_, library_list_), stored_flow_(*this, *this, stored_),
-      tool_row_(new ToolRow(undo_stack_, this))
+      selected_items_(std::make_shared<MVItemsSet>()), lists_(*this, steps_), stored_(lists_),
+      stored_flow_(*this, lists_, stored_), tool_row_(new ToolRow(steps_.stack(), this))
 {
     setWindowTitle(QCoreApplication::applicationName());
     const bool loaded = stored_flow_.load();
@@ -59,9 +57,12 @@ MirvantaApp::MirvantaApp(const MakeEditors& make_editors)
     refresh_save_and_delete();
     if (make_editors)
         editors_.add(make_editors(*this), *ui_);
-    const bool in_library = loaded && select_initial_command(menu_list_, library_list_);
-    show_list(in_library ? library_tab : menu_tab);
-    // Nobody has told of a current command where the list is empty.
+    if (loaded)
+        select_initial_command(lists_);
+    else
+        lists_.activate(menu_list());
+    // Nobody has told of either where the lists are empty; the tab is not always the one of the last session.
+    show_active_list();
     current_command_changed();
 }
 
@@ -71,13 +72,10 @@ void MirvantaApp::connect_all()
 {
     connect(&editors_, &CommandEditors::current_command_changed, this, &MirvantaApp::current_command_index_changed);
     connect(tool_row_, &ToolRow::about_requested, this, &MirvantaApp::on_about);
-    connect(tool_row_, &ToolRow::stepped, &editors_, &CommandEditors::refresh);
     connect(ui_.get(), &MainAppUi::commands_list_changed, this, &MirvantaApp::refresh_save_and_delete);
-    for (CommandsListController* list : {&menu_list_, &library_list_})
-        connect(list, &CommandsListController::current_command_index_changed, this, [this, list] {
-            if (list == &active_list())
-                current_command_changed();
-        });
+    connect(&lists_, &CommandLists::active_list_changed, this, &MirvantaApp::show_active_list);
+    connect(&lists_, &CommandLists::current_command_changed, this, &MirvantaApp::current_command_changed);
+    connect(&steps_, &UndoSteps::ended, this, &MirvantaApp::step_ended);
 }
 
 void MirvantaApp::lay_out()
@@ -101,7 +99,7 @@ void MirvantaApp::close_with_accept()
 void MirvantaApp::done(int result)
 {
     ui_->finish_edits();
-    window_state::save(*this, *ui_, menu_list_, library_list_);
+    window_state::save(*this, *ui_, lists_);
     source_.end();
     QDialog::done(result);
 }
@@ -110,9 +108,10 @@ void MirvantaApp::on_ok()
 {
     // Not every way to press a button takes the focus from an edit.
     ui_->finish_edits();
+    ok_holds_ = true;
     const bool leave = stored_flow_.settle_changes();
     refresh_save_and_delete();
-    if (leave && editors_.run_current_command())
+    if (leave && ok_holds_ && editors_.run_current_command())
         accept();
 }
 
@@ -132,6 +131,7 @@ void MirvantaApp::on_context_menu_selected(int command_index, const QStringList&
     setWindowState(windowState() & ~Qt::WindowMinimized);
     raise();
     activateWindow();
+    ok_holds_ = false;
     log_failures([&] {
         source_.take(command_index, paths);
         if (editors_.current())
@@ -146,15 +146,15 @@ void MirvantaApp::take_selection(int command_index, const QStringList& paths)
         if (!selected_items_->items().empty())
             exemplar_.set_item(selected_items_->items().front());
         if (command_index >= 0) {
-            show_list(menu_tab);
-            menu_list_.select(command_index);
+            lists_.activate(menu_list());
+            menu_list().select(command_index);
         }
     });
     // However much of it was taken: texts were given up for it, and whoever waits for new ones waits for this.
     log_failures([&] { editors_.refresh(); });
     log_failures([&] {
-        menu_list_.model().refresh_rows();
-        library_list_.model().refresh_rows();
+        menu_list().model().refresh_rows();
+        library_list().model().refresh_rows();
     });
 }
 
@@ -166,32 +166,36 @@ void MirvantaApp::current_command_index_changed()
 
 void MirvantaApp::current_command_changed()
 {
+    if (steps_.is_running())
+        return;
     editors_.set_current_command(active_list().current_command());
     ui_->show_page(editors_.current());
 }
 
-void MirvantaApp::active_tab_changed(int tab_index)
+void MirvantaApp::step_ended(const WrittenCommands& written)
 {
-    active_list_ = tab_index;
-    current_command_changed();
+    const auto& command = active_list().current_command();
+    if (!editors_.set_current_command(command) && std::ranges::find(written, command) != written.end())
+        editors_.refresh();
+    ui_->show_page(editors_.current());
     refresh_save_and_delete();
 }
 
-void MirvantaApp::show_list(int list)
+void MirvantaApp::active_tab_changed(int tab_index)
 {
-    active_list_ = list;
-    ui_->show_tab(list);
+    lists_.activate(MainAppUi::list_of_tab(lists_, tab_index));
+}
+
+void MirvantaApp::show_active_list()
+{
+    ui_->show_tab_of(active_list());
+    refresh_save_and_delete();
 }
 
 void MirvantaApp::refresh_save_and_delete()
 {
     ui_->show_save_button(stored_.has_unsaved_changes());
     ui_->enable_delete_button(!active_list().is_empty());
-}
-
-void MirvantaApp::show_menu_list()
-{
-    show_list(menu_tab);
 }
 
 void MirvantaApp::duplicate_command()
@@ -216,7 +220,7 @@ void MirvantaApp::delete_command_btn_pressed()
 
 void MirvantaApp::move_commands_to_other_list()
 {
-    list_edits::move_to_other_list(*this);
+    list_edits::move_to_other_list(lists_);
 }
 
 bool MirvantaApp::save_commands_list()

@@ -5,11 +5,11 @@
 #include "app/stored_flow.h"
 #include "app/stored_state.h"
 #include "ui/app_services.h"
-#include "ui/lists/commands_list_controller.h"
+#include "ui/lists/command_lists.h"
 #include "ui/preview/exemplar_item_provider.h"
+#include "ui/selection_services.h"
 
 #include <QDialog>
-#include <QUndoStack>
 
 #include <memory>
 
@@ -18,7 +18,7 @@ class ToolRow;
 
 /// The program's window and all that it works on: the stored commands, the undo stack, the selection. Main thread
 /// only.
-class MirvantaApp final : public QDialog, public AppServices
+class MirvantaApp final : public QDialog, public AppServices, public SelectionServices
 {
     Q_OBJECT
 
@@ -28,13 +28,21 @@ public:
     explicit MirvantaApp(const MakeEditors& make_editors = {});
     ~MirvantaApp() override;
 
-    CommandsListController& menu_list() override { return menu_list_; }
+    CommandsListController& menu_list() { return lists_.menu(); }
 
-    CommandsListController& library_list() override { return library_list_; }
+    CommandsListController& library_list() { return lists_.library(); }
 
-    CommandsListController& active_list() override { return active_list_ == 0 ? menu_list_ : library_list_; }
+    CommandsListController& active_list() { return lists_.active(); }
 
-    QUndoStack& undo_stack() override { return undo_stack_; }
+    QUndoStack& undo_stack() { return steps_.stack(); }
+
+    SelectionServices& selection() override { return *this; }
+
+    CommandLists& lists() override { return lists_; }
+
+    UndoSteps& steps() override { return steps_; }
+
+    ExemplarItemProvider& exemplar() override { return exemplar_; }
 
     std::shared_ptr<const MVItemsSet> selected_items() const override { return selected_items_; }
 
@@ -44,7 +52,6 @@ public:
 
     CommandControllerBase* current_editor() override { return editors_.current(); }
 
-    void show_menu_list() override;
     void duplicate_command() override;
     void reset_stored_commands() override;
     void close_with_accept() override;
@@ -64,7 +71,8 @@ public slots:
     void on_context_menu_selected(int command_index, const QStringList& paths);
     /// The current command's fields changed.
     void current_command_index_changed();
-    /// The active list has another current command: finds its editor and shows its page.
+    /// The active list has another current command: finds its editor and shows its page. While steps of undo are
+    /// running this waits for their end.
     void current_command_changed();
     void duplicate_command_btn_pressed();
     void new_command_btn_pressed();
@@ -82,21 +90,21 @@ protected:
 private:
     void connect_all();
     void lay_out();
-    void show_list(int list);
+    void show_active_list();
+    void step_ended(const WrittenCommands& written);
     void refresh_save_and_delete();
     void take_selection(int command_index, const QStringList& paths);
 
     std::shared_ptr<MVItemsSet> selected_items_;
-    CommandsListController menu_list_;
-    CommandsListController library_list_;
-    int active_list_ = 0; ///< 0 the menu list, 1 the library: the tab's number
+    UndoSteps steps_;
+    CommandLists lists_;
     StoredState stored_;
     StoredFlow stored_flow_;
-    QUndoStack undo_stack_;
     ExemplarItemProvider exemplar_;
     SelectionSource source_;
     CommandEditors editors_;
-    ToolRow* tool_row_; ///< made before `ui_`, so that it comes first in the tab order
+    bool ok_holds_ = false; ///< no selection has arrived since OK was pressed: what it was pressed for is still there
+    ToolRow* tool_row_;     ///< made before `ui_`, so that it comes first in the tab order
     // Goes first: its widgets use all of the above.
     std::unique_ptr<MainAppUi> ui_;
 };

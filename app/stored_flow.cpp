@@ -3,8 +3,7 @@
 #include "app/list_edits.h"
 #include "app/message_boxes.h"
 #include "app/stored_state.h"
-#include "ui/app_services.h"
-#include "ui/lists/commands_list_controller.h"
+#include "ui/lists/command_lists.h"
 
 #include <QTimer>
 #include <QWidget>
@@ -27,7 +26,7 @@ bool StoredFlow::load()
 
 bool StoredFlow::save()
 {
-    const CommandsListController& menu = app_.menu_list();
+    const CommandsListController& menu = lists_.menu();
     if (menu.is_empty()) {
         MessageBoxes::show_menu_is_empty(&window_);
         return false;
@@ -46,7 +45,7 @@ bool StoredFlow::save()
 void StoredFlow::reset()
 {
     try {
-        list_edits::reset(app_);
+        list_edits::reset(lists_);
     } catch (const std::exception& error) {
         MessageBoxes::show_failure(&window_, MessageBoxes::tr("Failed to read built-in stored commands"), error);
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-class AppServices;
+class CommandLists;
 class QWidget;
 class StoredState;
 
@@ -9,7 +9,8 @@ class StoredState;
 class StoredFlow
 {
 public:
-    StoredFlow(QWidget& window, AppServices& app, StoredState& stored) : window_(window), app_(app), stored_(stored)
+    StoredFlow(QWidget& window, CommandLists& lists, StoredState& stored)
+        : window_(window), lists_(lists), stored_(stored)
     {}
 
     /// False when the commands file can't be used, which the user is told once events are processed.
@@ -26,6 +27,6 @@ public:
 
 private:
     QWidget& window_;
-    AppServices& app_;
+    CommandLists& lists_;
     StoredState& stored_;
 };

@@ -4,14 +4,14 @@
 
 #include <vector>
 
-class CommandsListController;
+class CommandLists;
 
 /// The stored commands and presets, between the commands file and the two lists that show them. Main thread only.
 class StoredState
 {
 public:
     /// Empty until `load`.
-    StoredState(CommandsListController& menu, CommandsListController& library) : menu_(menu), library_(library) {}
+    explicit StoredState(CommandLists& lists) : lists_(lists) {}
 
     /// Fills the lists and the presets from the commands file. Throws what `commands_file::load` throws; nothing has
     /// changed then.
@@ -25,8 +25,7 @@ public:
     bool has_unsaved_changes() const;
 
 private:
-    CommandsListController& menu_;
-    CommandsListController& library_;
+    CommandLists& lists_;
     std::vector<ExtensionsPreset> presets_; ///< the user's, as edited
     std::vector<ExtensionsPreset> saved_presets_;
     /// Kept by the next save when nothing could be loaded: the lists say nothing about what the file holds.

@@ -38,7 +38,6 @@ QAction* ToolRow::take_step_action(QAction* action, const QKeySequence& keys)
 {
     action->setShortcut(keys);
     action->setShortcutContext(Qt::ApplicationShortcut);
-    connect(action, &QAction::triggered, this, &ToolRow::stepped);
     return action;
 }
 

@@ -18,13 +18,11 @@ public:
     void redo();
 
 signals:
-    /// A step was undone or redone, by whatever way the user chose here.
-    void stepped();
     /// "About" was chosen.
     void about_requested();
 
 private:
-    QAction* take_step_action(QAction* action, const QKeySequence& keys);
+    static QAction* take_step_action(QAction* action, const QKeySequence& keys);
 
     QAction* undo_;
     QAction* redo_;

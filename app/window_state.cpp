@@ -2,7 +2,7 @@
 
 #include "app/main_app_ui.h"
 #include "app/settings_keys.h"
-#include "ui/lists/commands_list_controller.h"
+#include "ui/lists/command_lists.h"
 
 #include <QSettings>
 
@@ -15,13 +15,12 @@ void restore(QWidget& window, MainAppUi& ui)
     ui.restore_settings(settings);
 }
 
-void save(const QWidget& window, const MainAppUi& ui, const CommandsListController& menu,
-          const CommandsListController& library)
+void save(const QWidget& window, const MainAppUi& ui, CommandLists& lists)
 {
     QSettings settings;
     settings.setValue(settings_keys::window_geometry, window.saveGeometry());
-    settings.setValue(settings_keys::menu_row, menu.current_index());
-    settings.setValue(settings_keys::library_row, library.current_index());
+    settings.setValue(settings_keys::menu_row, lists.menu().current_index());
+    settings.setValue(settings_keys::library_row, lists.library().current_index());
     ui.save_settings(settings);
 }
 

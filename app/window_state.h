@@ -1,6 +1,6 @@
 #pragma once
 
-class CommandsListController;
+class CommandLists;
 class MainAppUi;
 class QWidget;
 
@@ -12,7 +12,6 @@ namespace window_state {
 void restore(QWidget& window, MainAppUi& ui);
 
 /// What `restore` brings back, the lists' current rows, and what the editors' pages keep.
-void save(const QWidget& window, const MainAppUi& ui, const CommandsListController& menu,
-          const CommandsListController& library);
+void save(const QWidget& window, const MainAppUi& ui, CommandLists& lists);
 
 }

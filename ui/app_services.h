@@ -1,39 +1,21 @@
 #pragma once
 
-#include <memory>
-
 class CommandControllerBase;
-class CommandsListController;
-class MVItemsSet;
-class QUndoStack;
-class SelectionReaders;
+class CommandLists;
+class ExemplarItemProvider;
+class SelectionServices;
+class UndoSteps;
 
-/// What the interface asks of the application around it. Main thread only; outlives every widget and controller that
-/// was given a reference to it.
+/// What the interface asks of the application around it, a service a subject: whoever needs one of them takes that
+/// one alone. Main thread only; outlives every widget and controller that was given a reference to it or to a
+/// service.
 class AppServices
 {
 public:
-    virtual ~AppServices() = default;
-
-    virtual CommandsListController& menu_list() = 0;
-    virtual CommandsListController& library_list() = 0;
-    /// The list whose tab shows; new and duplicated commands go there.
-    virtual CommandsListController& active_list() = 0;
-
-    /// Makes the menu list the active one and shows its tab.
-    virtual void show_menu_list() = 0;
-
-    virtual QUndoStack& undo_stack() = 0;
-
-    /// The selection that texts and show marks are made of. Never null, always the same object.
-    virtual std::shared_ptr<const MVItemsSet> selected_items() const = 0;
-
-    /// Where whoever reads the selection on another thread registers, so that it doesn't change meanwhile.
-    virtual SelectionReaders& selection_readers() = 0;
-
-    /// Whether a selection has arrived that isn't taken yet: its paths have not answered, or somebody still reads the
-    /// old one. A text made meanwhile is of the old one.
-    virtual bool is_selection_coming() const = 0;
+    virtual SelectionServices& selection() = 0;
+    virtual CommandLists& lists() = 0;
+    virtual UndoSteps& steps() = 0;
+    virtual ExemplarItemProvider& exemplar() = 0;
 
     /// The editor that shows the active list's current command; null when no editor takes it.
     virtual CommandControllerBase* current_editor() = 0;
@@ -51,4 +33,5 @@ protected:
     AppServices() = default;
     AppServices(const AppServices&) = default;
     AppServices& operator=(const AppServices&) = default;
+    ~AppServices() = default;
 };

@@ -89,12 +89,33 @@ TEST_F(AppTest, DuplicateTakesTheEditsAlong)
     EXPECT_EQ(state(), "menu[*A', More] library[*A (Copy)] save");
 }
 
+TEST_F(AppTest, WhatAStepChangesIsShownOnce)
+{
+    store("A, B, More", "L");
+    open();
+    const auto seen = [this](const auto& act) {
+        editor->calls.clear();
+        editor->offers = 0;
+        act();
+        return std::to_string(editor->offers) + " " + editor->calls + state();
+    };
+    editor->change_separator(u"; ");
+    const std::string edited = "menu[*A', B, More] library[*L] save", saved = "menu[*A, B, More] library[*L]";
+    EXPECT_EQ(seen([this] { app->menu_list().discard(0); }), "0 refresh " + saved);
+    EXPECT_EQ(seen([this] { app->undo_stack().undo(); }), "0 refresh " + edited);
+    app->menu_list().select_without_undo(1);
+    show_tab(1);
+    EXPECT_EQ(seen([this] { app->undo_stack().redo(); }), "1 " + saved) << "from the library and another row";
+    EXPECT_EQ(seen([this] { app->menu_list().reorder({1, 0, 2}); }), "0 menu[B, *A, More] library[*L] save");
+}
+
 TEST_F(AppTest, UndoAndRedoComeByToolAndKey)
 {
     store("A, More");
     open();
     press("New");
     editor->calls.clear();
+    editor->offers = 0;
     const std::string with_new = state();
     for (const auto& [key, expected] : {std::pair{Qt::Key_Z, std::string("menu[*A, More] library[]")},
                                         {Qt::Key_Z, "menu[*A, More] library[]"},
@@ -102,7 +123,8 @@ TEST_F(AppTest, UndoAndRedoComeByToolAndKey)
         QTest::keyClick(app.get(), key, Qt::ControlModifier);
         EXPECT_EQ(state(), expected);
     }
-    EXPECT_EQ(editor->calls, "refresh refresh ");
+    EXPECT_EQ(editor->offers, 2) << "once for each step that there was";
+    EXPECT_EQ(editor->calls, "");
     const auto action_texts = [this] {
         std::string texts;
         for (const QAction* action : app->findChildren<QAction*>())

@@ -11,6 +11,7 @@
 #include <QSettings>
 #include <QSplitter>
 #include <QTest>
+#include <QTimer>
 
 #include <algorithm>
 #include <chrono>
@@ -117,6 +118,18 @@ TEST_F(AppTest, LeavesAsTheUserAnswers)
         EXPECT_EQ(content(user_file) != before, c.saves);
         EXPECT_EQ(button("Save") != nullptr, c.edited && !c.saves && !c.closes);
     }
+}
+
+TEST_F(AppTest, ASelectionTakesBackTheOkThatStillAsks)
+{
+    store("A, More");
+    open();
+    editor->change_separator(u"-");
+    QTimer::singleShot(0, app.get(), [&] { app->on_context_menu_selected(-1, {path_of("a.txt")}); });
+    const BoxAnswer box({"Don't Save"});
+    press("OK");
+    EXPECT_TRUE(app->isVisible());
+    EXPECT_EQ(editor->calls.find("run"), std::string::npos) << editor->calls;
 }
 
 TEST_F(AppTest, AnOpenEditIsFinishedFirst)

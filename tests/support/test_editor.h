@@ -3,6 +3,7 @@
 #include "ui/app_services.h"
 #include "ui/editor/command_controller_base.h"
 #include "ui/editor/command_main_widget_base.h"
+#include "ui/selection_services.h"
 
 #include "engine/commands/vellumark_command.h"
 
@@ -40,13 +41,18 @@ public:
     {
         if (before_offer)
             before_offer();
+        ++offers;
         current = std::dynamic_pointer_cast<VellumarkCommand>(command);
         return current != nullptr;
     }
 
-    void refresh() override { calls += app().is_selection_coming() ? "early-refresh " : "refresh "; }
+    void suspend() override { calls += "suspend "; }
 
-    void selection_coming() override { calls += app().is_selection_coming() ? "coming " : "late "; }
+    void resume() override { calls += "resume "; }
+
+    void refresh() override { calls += app().selection().is_selection_coming() ? "early-refresh " : "refresh "; }
+
+    void selection_coming() override { calls += app().selection().is_selection_coming() ? "coming " : "late "; }
 
     void focus_name() override { calls += "focus "; }
 
@@ -67,6 +73,7 @@ public:
 
     std::shared_ptr<VellumarkCommand> current;
     std::string calls;
+    int offers = 0;
     bool may_close = true, duplicates = true;
     std::function<void()> before_offer; ///< what it throws, the offer of a command throws
 };

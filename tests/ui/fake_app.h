@@ -3,25 +3,23 @@
 #include "engine/items/mv_items_set.h"
 #include "ui/app_services.h"
 #include "ui/editor/command_controller_base.h"
-#include "ui/lists/commands_list_controller.h"
-
-#include <QUndoStack>
+#include "ui/lists/command_lists.h"
+#include "ui/preview/exemplar_item_provider.h"
+#include "ui/selection_services.h"
 
 #include <stdexcept>
 
 /// An application of two lists and an undo stack, without a window. What is called is written down.
-class FakeApp final : public AppServices
+class FakeApp final : public AppServices, public SelectionServices
 {
 public:
-    CommandsListController& menu_list() override { return menu; }
+    SelectionServices& selection() override { return *this; }
 
-    CommandsListController& library_list() override { return library; }
+    CommandLists& lists() override { return lists_; }
 
-    CommandsListController& active_list() override { return menu; }
+    UndoSteps& steps() override { return steps_; }
 
-    void show_menu_list() override { calls += "menu "; }
-
-    QUndoStack& undo_stack() override { return stack; }
+    ExemplarItemProvider& exemplar() override { return exemplar_; }
 
     std::shared_ptr<const MVItemsSet> selected_items() const override { return items; }
 
@@ -37,10 +35,17 @@ public:
 
     void close_with_accept() override { calls += "accept "; }
 
-    QUndoStack stack;
     std::shared_ptr<MVItemsSet> items = std::make_shared<MVItemsSet>();
-    CommandsListController menu{*this};
-    CommandsListController library{*this};
     CommandControllerBase* editor = nullptr;
     std::string calls;
+
+private:
+    UndoSteps steps_;
+    CommandLists lists_{*this, steps_};
+    ExemplarItemProvider exemplar_;
+
+public:
+    QUndoStack& stack = steps_.stack();
+    CommandsListController& menu = lists_.menu();
+    CommandsListController& library = lists_.library();
 };

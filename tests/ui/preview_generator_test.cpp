@@ -133,16 +133,17 @@ TEST_F(PreviewGeneratorTest, SuspendedItWorksNot)
 {
     start_endless_run();
     generator_->suspend();
+    EXPECT_FALSE(generator_->is_updating()) << "nobody is to wait";
     EXPECT_TRUE(stops_reading());
     generator_->set_command(names());
     QTest::qWait(50);
-    EXPECT_FALSE(generator_->is_reading());
+    EXPECT_FALSE(generator_->is_reading() || generator_->is_updating());
     generator_->resume();
     EXPECT_TRUE(settles(*generator_));
-    EXPECT_EQ(log_.text(), ".........[endless]");
+    EXPECT_EQ(log_.text(), "......[endless]");
     generator_->set_command(nullptr);
     generator_->resume();
-    EXPECT_EQ(log_.text(), ".........[endless][]");
+    EXPECT_EQ(log_.text(), "......[endless][]");
 }
 
 TEST_F(PreviewGeneratorTest, ProgressComesSlowlyAndEndsWithTheRun)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/suspendable.h"
+
 #include <QObject>
 
 #include <memory>
@@ -10,7 +12,7 @@ class MVCommandBase;
 
 /// An editor for one class of commands: it holds the current command and owns the page that shows it. Main thread
 /// only.
-class CommandControllerBase : public QObject
+class CommandControllerBase : public QObject, public Suspendable
 {
     Q_OBJECT
 
@@ -33,6 +35,11 @@ public:
     virtual void begin_update() {}
 
     virtual void end_update() {}
+
+    /// Another page covers this one.
+    void suspend() override {}
+
+    void resume() override {}
 
     /// Shows or hides the editing pane.
     virtual void set_expanded(bool /*expanded*/) {}

@@ -4,10 +4,11 @@
 #include "ui/editor/copy_step.h"
 #include "ui/editor/vellumark_main_widget.h"
 #include "ui/preview/wait_for_text_dlg.h"
+#include "ui/selection_services.h"
 
 VellumarkController::VellumarkController(AppServices& app, platform::Clipboard& clipboard, QObject* parent)
     : CommandControllerBase(app, parent), clipboard_(clipboard),
-      generator_(app.selected_items(), app.selection_readers(), this)
+      generator_(app.selection().selected_items(), app.selection().selection_readers(), this)
 {
     connect(&generator_, &PreviewGenerator::text_updating, this, &VellumarkController::on_preview_text_updating);
     connect(&generator_, &PreviewGenerator::text_ready, this, &VellumarkController::on_preview_text_ready);
@@ -59,6 +60,17 @@ void VellumarkController::end_update()
         refresh();
 }
 
+void VellumarkController::suspend()
+{
+    stop_waiting();
+    generator_.suspend();
+}
+
+void VellumarkController::resume()
+{
+    generator_.resume();
+}
+
 void VellumarkController::set_expanded(bool expanded)
 {
     page_->set_expanded(expanded);
@@ -66,6 +78,9 @@ void VellumarkController::set_expanded(bool expanded)
 
 bool VellumarkController::run_current_command()
 {
+    // Whatever covers the page, its text is wanted now.
+    if (generator_.is_suspended())
+        resume();
     if (!is_text_coming())
         return copy_text();
     if (!wait_dialog_)
@@ -82,7 +97,7 @@ void VellumarkController::selection_coming()
 
 bool VellumarkController::is_text_coming() const
 {
-    return generator_.is_updating() || app().is_selection_coming();
+    return generator_.is_updating() || app().selection().is_selection_coming();
 }
 
 void VellumarkController::stop_waiting()
@@ -97,7 +112,7 @@ void VellumarkController::open_wait_dialog()
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::finished, this, &VellumarkController::waiting_for_text_dlg_finished);
     connect(&generator_, &PreviewGenerator::progress_changed, dialog, &WaitForTextDlg::show_progress);
-    if (app().is_selection_coming())
+    if (app().selection().is_selection_coming())
         dialog->show_progress(waiting_for_selection(), {});
     wait_dialog_ = dialog;
     dialog->open();
@@ -108,7 +123,7 @@ bool VellumarkController::copy_text()
     CopyStep step(clipboard_, *page_->window());
     if (!generator_.failure().isEmpty())
         return step.refuse(generator_.failure());
-    return step.run(current_command_, *app().selected_items(), generator_.text());
+    return step.run(current_command_, *app().selection().selected_items(), generator_.text());
 }
 
 void VellumarkController::update_after_curr_command_changed()
@@ -120,7 +135,7 @@ void VellumarkController::update_after_curr_command_changed()
 void VellumarkController::on_preview_text_updating()
 {
     page_->show_preview_updating();
-    if (app().is_selection_coming())
+    if (app().selection().is_selection_coming())
         page_->show_preview_progress(waiting_for_selection(), {});
 }
 
@@ -132,7 +147,7 @@ QString VellumarkController::waiting_for_selection()
 void VellumarkController::on_preview_text_ready(const QString& text)
 {
     // It is of the selection before; the refresh that comes with the next one brings another.
-    if (app().is_selection_coming())
+    if (app().selection().is_selection_coming())
         return;
     if (generator_.failure().isEmpty())
         page_->set_preview_text(text);

@@ -26,6 +26,9 @@ public:
     void refresh() override;
     void begin_update() override;
     void end_update() override;
+    /// A box that waits for the text goes.
+    void suspend() override;
+    void resume() override;
     void set_expanded(bool expanded) override;
 
     /// Copies the text, or while it is still being made opens a box that waits for it and then copies and closes the

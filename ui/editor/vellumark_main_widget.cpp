@@ -4,6 +4,7 @@
 #include "ui/app_services.h"
 #include "ui/editor/vellumark_controller.h"
 #include "ui/preview/clipboard_preview_container_widget.h"
+#include "ui/selection_services.h"
 #include "ui/widgets/disclosure_header.h"
 #include "ui/widgets/grip_splitter.h"
 
@@ -38,7 +39,7 @@ VellumarkMainWidget::VellumarkMainWidget(AppServices& app, VellumarkController& 
 
 void VellumarkMainWidget::set_command(const std::shared_ptr<VellumarkCommand>& /*command*/)
 {
-    preview_->show_page_for(app_.selected_items()->items().size());
+    preview_->show_page_for(app_.selection().selected_items()->items().size());
 }
 
 void VellumarkMainWidget::set_preview_text(const QString& text)

@@ -1,14 +1,12 @@
 #include "ui/lists/commands_list_controller.h"
 
-#include "ui/app_services.h"
+#include "ui/lists/command_lists.h"
 #include "ui/lists/commands_comparison.h"
 #include "ui/lists/commands_list_model.h"
 #include "ui/lists/commands_selection_model.h"
 #include "ui/lists/undo_change_stored_commands_list.h"
 #include "ui/lists/undo_discard_changes.h"
 #include "ui/lists/undo_select_stored_command.h"
-
-#include <QUndoStack>
 
 #include <algorithm>
 
@@ -28,8 +26,8 @@ auto is_of_type(CommandType type)
 
 }
 
-CommandsListController::CommandsListController(AppServices& app, QObject* parent)
-    : QObject(parent), app_(app), model_(new CommandsListModel(app, *this)),
+CommandsListController::CommandsListController(CommandLists& lists, QObject* parent)
+    : QObject(parent), lists_(lists), model_(new CommandsListModel(lists.selection(), *this)),
       selection_(new CommandsSelectionModel(model_, this))
 {}
 
@@ -62,6 +60,11 @@ int CommandsListController::first_file_name_command_row() const
 int CommandsListController::find(const MVCommandBase& command) const
 {
     return first_row(commands(), [&](const auto& other) { return other->equals(command); });
+}
+
+int CommandsListController::row_of(const MVCommandBase& command) const
+{
+    return first_row(commands(), [&](const auto& other) { return other.get() == &command; });
 }
 
 int CommandsListController::selected_count() const
@@ -99,7 +102,7 @@ void CommandsListController::select(int row)
     const Command command = command_at(row);
     if (!command || (row == current_index_ && command == current_command_))
         return;
-    app_.undo_stack().push(new UndoSelectStoredCommand(*this, row, tr("Select Stored Command")));
+    undo_stack().push(new UndoSelectStoredCommand(*this, row, tr("Select Stored Command")));
 }
 
 CommandsListController::Command CommandsListController::clone_current() const
@@ -141,8 +144,7 @@ void CommandsListController::commit(int row)
 void CommandsListController::discard(int row)
 {
     if (Command command = command_at(row))
-        app_.undo_stack().push(
-            new UndoDiscardChanges(*this, app_.current_editor(), std::move(command), tr("Discard Changes")));
+        undo_stack().push(new UndoDiscardChanges(lists_, std::move(command), tr("Discard Changes")));
 }
 
 void CommandsListController::reorder(const std::vector<int>& order)
@@ -153,7 +155,7 @@ void CommandsListController::reorder(const std::vector<int>& order)
     const auto current = std::ranges::find(order, current_index_);
     state.current = current == order.end() ? -1 : static_cast<int>(current - order.begin());
 
-    QUndoStack& stack = app_.undo_stack();
+    QUndoStack& stack = undo_stack();
     stack.beginMacro(tr("Undo Reorder Commands"));
     stack.push(new UndoSelectStoredCommand(*this, current_index_, {}));
     push_list(std::move(state), {});
@@ -162,13 +164,17 @@ void CommandsListController::reorder(const std::vector<int>& order)
 
 void CommandsListController::command_changed(const MVCommandBase& command)
 {
-    model_->refresh_row(first_row(commands(), [&](const auto& other) { return other.get() == &command; }));
-    emit commands_list_changed();
+    model_->refresh_row(row_of(command));
+}
+
+QUndoStack& CommandsListController::undo_stack() const
+{
+    return lists_.steps().stack();
 }
 
 void CommandsListController::push_list(ListState state, const QString& text)
 {
-    app_.undo_stack().push(new UndoChangeStoredCommandsList(*this, std::move(state), text));
+    undo_stack().push(new UndoChangeStoredCommandsList(*this, std::move(state), text));
 }
 
 void CommandsListController::replace(int row, Command command, const QString& text)

@@ -8,9 +8,10 @@
 #include <string>
 #include <vector>
 
-class AppServices;
+class CommandLists;
 class CommandsListModel;
 class CommandsSelectionModel;
+class QUndoStack;
 
 /// One list of stored commands: its state, its rows' selection and the operations that go through undo. Main thread
 /// only. An operation on a row that doesn't exist does nothing.
@@ -21,8 +22,10 @@ class CommandsListController final : public QObject
 public:
     using Command = std::shared_ptr<MVCommandBase>;
 
-    /// Empty. `app` gives the undo stack and the selection when they are needed, not before.
-    explicit CommandsListController(AppServices& app, QObject* parent = nullptr);
+    /// Empty; one of `lists`.
+    explicit CommandsListController(CommandLists& lists, QObject* parent = nullptr);
+
+    CommandLists& lists() const { return lists_; }
 
     CommandsListModel& model() const { return *model_; }
 
@@ -52,6 +55,8 @@ public:
     int first_file_name_command_row() const;
     /// The first row whose command equals this one; -1 without one.
     int find(const MVCommandBase& command) const;
+    /// The row of this very command; -1 when it stands elsewhere.
+    int row_of(const MVCommandBase& command) const;
     int selected_count() const;
 
     /// Not undoable: replaces the commands. The current command stays what it was: follow with `set_current_row`.
@@ -79,7 +84,8 @@ public:
     /// Puts row `order[i]` into row i, as one undo step. `order` holds every row once.
     void reorder(const std::vector<int>& order);
 
-    /// The command's contents changed behind its row.
+    /// The command's contents changed behind its row, which has to be painted again. Nothing when it stands
+    /// elsewhere.
     void command_changed(const MVCommandBase& command);
 
 signals:
@@ -89,10 +95,11 @@ signals:
     void commands_list_changed();
 
 private:
+    QUndoStack& undo_stack() const;
     void push_list(ListState state, const QString& text);
     void replace(int row, Command command, const QString& text);
 
-    AppServices& app_;
+    CommandLists& lists_;
     CommandsListModel* model_;
     CommandsSelectionModel* selection_;
     int current_index_ = -1;

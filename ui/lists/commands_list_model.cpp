@@ -32,9 +32,9 @@ QFont nameless_font()
 
 }
 
-CommandsListModel::CommandsListModel(AppServices& app, CommandsListController& controller)
+CommandsListModel::CommandsListModel(SelectionServices& selection, CommandsListController& controller)
     : QAbstractTableModel(&controller), controller_(controller),
-      show_marks_(app, [this](const Command& command) { command_decided(command); }),
+      show_marks_(selection, [this](const Command& command) { command_decided(command); }),
       unsaved_icon_(":/MirvantaApp/Resources/unsaved.svg"), no_save_icon_(":/MirvantaApp/Resources/no_save.svg")
 {}
 

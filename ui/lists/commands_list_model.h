@@ -6,7 +6,7 @@
 #include <QAbstractTableModel>
 #include <QIcon>
 
-class AppServices;
+class SelectionServices;
 class CommandsListController;
 
 /// The rows of a list: its commands as they are and as they were saved last. Main thread only.
@@ -18,7 +18,7 @@ public:
     enum Column { MarkColumn, NameColumn, MenuColumn, ColumnCount };
 
     /// Child of its controller.
-    CommandsListModel(AppServices& app, CommandsListController& controller);
+    CommandsListModel(SelectionServices& selection, CommandsListController& controller);
 
     const CommandList& commands() const { return commands_; }
 

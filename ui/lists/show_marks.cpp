@@ -3,7 +3,7 @@
 #include "engine/commands/vellumark_command.h"
 #include "engine/items/mv_items_set.h"
 #include "store/builtin_command_info.h"
-#include "ui/app_services.h"
+#include "ui/selection_services.h"
 
 #include <algorithm>
 #include <chrono>
@@ -24,15 +24,15 @@ constexpr std::size_t most_waiting = 256;
 
 }
 
-ShowMarks::ShowMarks(AppServices& app, std::function<void(const Command&)> decided)
-    : app_(app), decided_(std::move(decided))
+ShowMarks::ShowMarks(SelectionServices& selection, std::function<void(const Command&)> decided)
+    : selection_(selection), decided_(std::move(decided))
 {
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { work(); });
 }
 
 bool ShowMarks::is_shown(const Command& command)
 {
-    const std::shared_ptr<const MVItemsSet> selection = app_.selected_items();
+    const std::shared_ptr<const MVItemsSet> selection = selection_.selected_items();
     if (selection->items().empty())
         return true;
     if (const auto* vellumark = dynamic_cast<const VellumarkCommand*>(command.get()))
@@ -65,7 +65,7 @@ void ShowMarks::take_first_look(Search& search, const VellumarkCommand& command)
 
 void ShowMarks::go_on(Search& search, const VellumarkCommand& command, Clock::time_point until) const
 {
-    const std::shared_ptr<const MVItemsSet> selection = app_.selected_items();
+    const std::shared_ptr<const MVItemsSet> selection = selection_.selected_items();
     const auto& items = selection->items();
     while (search.next_item < items.size()) {
         if (command.passes_filter(*items[search.next_item++])) {

@@ -8,7 +8,7 @@
 #include <unordered_map>
 #include <vector>
 
-class AppServices;
+class SelectionServices;
 class MVCommandBase;
 class VellumarkCommand;
 
@@ -21,7 +21,7 @@ public:
     using Command = std::shared_ptr<MVCommandBase>;
 
     /// `decided` is called for each command whose answer came later, and may differ from the first one.
-    ShowMarks(AppServices& app, std::function<void(const Command&)> decided);
+    ShowMarks(SelectionServices& selection, std::function<void(const Command&)> decided);
 
     /// True for an empty selection, and as long as the answer isn't known.
     bool is_shown(const Command& command);
@@ -44,7 +44,7 @@ private:
     void work();
     void wait_for(const Command& command);
 
-    AppServices& app_;
+    SelectionServices& selection_;
     std::function<void(const Command&)> decided_;
     /// The keys keep their commands alive, so that no other one gets the address of one in here.
     std::unordered_map<Command, Search> searches_;

@@ -1,6 +1,6 @@
 #include "ui/lists/undo_change_stored_commands_list.h"
 
-#include "ui/lists/commands_list_controller.h"
+#include "ui/lists/command_lists.h"
 
 namespace {
 
@@ -14,15 +14,16 @@ void apply(CommandsListController& controller, const ListState& state)
 
 UndoChangeStoredCommandsList::UndoChangeStoredCommandsList(CommandsListController& controller, ListState state,
                                                            const QString& text)
-    : QUndoCommand(text), controller_(controller), old_(controller.state()), new_(std::move(state))
+    : UndoStep(controller.lists().steps(), text), controller_(controller), old_(controller.state()),
+      new_(std::move(state))
 {}
 
-void UndoChangeStoredCommandsList::undo()
+void UndoChangeStoredCommandsList::put_old()
 {
     apply(controller_, old_);
 }
 
-void UndoChangeStoredCommandsList::redo()
+void UndoChangeStoredCommandsList::put_new()
 {
     apply(controller_, new_);
 }

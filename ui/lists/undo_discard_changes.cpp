@@ -1,29 +1,18 @@
 #include "ui/lists/undo_discard_changes.h"
 
 #include "engine/commands/mv_command_base.h"
-#include "ui/lists/commands_list_controller.h"
 
-UndoDiscardChanges::UndoDiscardChanges(CommandsListController& controller, CommandControllerBase* editor,
-                                       std::shared_ptr<MVCommandBase> command, const QString& text)
-    : QUndoCommand(text), controller_(controller), editor_(editor), command_(std::move(command)),
-      old_(command_->clone())
+UndoDiscardChanges::UndoDiscardChanges(CommandLists& lists, std::shared_ptr<MVCommandBase> command,
+                                       const QString& text)
+    : CommandStep(lists, std::move(command), text), old_(this->command()->clone())
 {}
 
-void UndoDiscardChanges::undo()
+void UndoDiscardChanges::write_old(MVCommandBase& command)
 {
-    command_->assign_from(*old_);
-    show();
+    command.assign_from(*old_);
 }
 
-void UndoDiscardChanges::redo()
+void UndoDiscardChanges::write_new(MVCommandBase& command)
 {
-    command_->revert();
-    show();
-}
-
-void UndoDiscardChanges::show()
-{
-    if (editor_)
-        editor_->refresh();
-    controller_.command_changed(*command_);
+    command.revert();
 }

@@ -1,31 +1,17 @@
 #pragma once
 
-#include "ui/editor/command_controller_base.h"
-
-#include <QPointer>
-#include <QUndoCommand>
-
-#include <memory>
-
-class CommandsListController;
-class MVCommandBase;
+#include "ui/undo/command_step.h"
 
 /// Takes a command back to its saved contents.
-class UndoDiscardChanges final : public QUndoCommand
+class UndoDiscardChanges final : public CommandStep
 {
 public:
-    /// The contents to come back to are the command's at this moment. `editor` is null where no editor shows it.
-    UndoDiscardChanges(CommandsListController& controller, CommandControllerBase* editor,
-                       std::shared_ptr<MVCommandBase> command, const QString& text);
-
-    void undo() override;
-    void redo() override;
+    /// The contents to come back to are the command's at this moment.
+    UndoDiscardChanges(CommandLists& lists, std::shared_ptr<MVCommandBase> command, const QString& text);
 
 private:
-    void show();
+    void write_old(MVCommandBase& command) override;
+    void write_new(MVCommandBase& command) override;
 
-    CommandsListController& controller_;
-    QPointer<CommandControllerBase> editor_;
-    std::shared_ptr<MVCommandBase> command_;
     std::shared_ptr<const MVCommandBase> old_;
 };

@@ -1,29 +1,27 @@
 #pragma once
 
 #include "ui/lists/list_state.h"
+#include "ui/undo/undo_step.h"
 
-#include <QUndoCommand>
-
-class AppServices;
+class CommandLists;
 
 /// Replaces the commands and the current rows of both lists.
-class UndoMoveCommandBetweenLists final : public QUndoCommand
+class UndoMoveCommandBetweenLists final : public UndoStep
 {
 public:
-    /// The states to come back to are those of the application's lists at this moment.
-    UndoMoveCommandBetweenLists(AppServices& app, ListState menu, ListState library, const QString& text);
-
-    void undo() override;
-    void redo() override;
+    /// The states to come back to are those of the lists at this moment.
+    UndoMoveCommandBetweenLists(CommandLists& lists, ListState menu, ListState library, const QString& text);
 
 private:
     struct States {
         ListState menu, library;
     };
 
+    void put_old() override;
+    void put_new() override;
     void apply(const States& states);
 
-    AppServices& app_;
+    CommandLists& lists_;
     States old_;
     States new_;
 };

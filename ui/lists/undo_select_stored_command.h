@@ -1,20 +1,20 @@
 #pragma once
 
-#include <QUndoCommand>
+#include "ui/undo/undo_step.h"
 
 class CommandsListController;
 
 /// Makes another row of a list current.
-class UndoSelectStoredCommand final : public QUndoCommand
+class UndoSelectStoredCommand final : public UndoStep
 {
 public:
     /// The row to come back to is the controller's current one at this moment.
     UndoSelectStoredCommand(CommandsListController& controller, int row, const QString& text);
 
-    void undo() override;
-    void redo() override;
-
 private:
+    void put_old() override;
+    void put_new() override;
+
     CommandsListController& controller_;
     int old_row_;
     int new_row_;

@@ -45,7 +45,7 @@ void PreviewGenerator::set_command(std::shared_ptr<const VellumarkCommand> comma
 void PreviewGenerator::suspend()
 {
     suspended_ = true;
-    if (updating_)
+    if (std::exchange(updating_, false))
         stop_reading();
 }
 
@@ -68,6 +68,10 @@ void PreviewGenerator::start_run()
     ++request_counter_;
     text_.clear();
     failure_.clear();
+    if (suspended_) {
+        cancel_run();
+        return;
+    }
     updating_ = true;
     emit text_updating();
     request_text();
@@ -75,7 +79,7 @@ void PreviewGenerator::start_run()
 
 void PreviewGenerator::request_text()
 {
-    if (suspended_ || readers_.is_selection_waiting()) {
+    if (readers_.is_selection_waiting()) {
         cancel_run();
         return;
     }

@@ -4,6 +4,7 @@
 #include "engine/runner/vellumark_thread.h"
 #include "ui/preview/run_progress.h"
 #include "ui/selection_reader.h"
+#include "ui/suspendable.h"
 
 #include <QObject>
 #include <QString>
@@ -16,7 +17,7 @@
 
 /// Makes the text of one command for the selection, in the background, and anew at each change of the command. Only
 /// the last of several requests brings a text. Main thread only, but for what the worker calls.
-class PreviewGenerator final : public QObject, public SelectionReader, public VellumarkWatcher
+class PreviewGenerator final : public QObject, public SelectionReader, public Suspendable, public VellumarkWatcher
 {
     Q_OBJECT
 
@@ -30,7 +31,7 @@ public:
     /// selection waits, the command is only remembered: the refresh that follows the new selection sets it again.
     void set_command(std::shared_ptr<const VellumarkCommand> command);
 
-    /// Whether the command's text is still to come.
+    /// Whether the command's text is still to come; not while suspended, for no one makes it then.
     bool is_updating() const { return updating_; }
 
     /// The finished text; empty while it is made, and when that failed.
@@ -44,11 +45,12 @@ public:
 
     bool defer_updates() const { return defer_updates_; }
 
-    /// Nobody sees the text: the run in progress is cancelled and no other one started.
-    void suspend();
-    /// Starts a run for the command, if there is one, also after no `suspend`: what the text was made of may have
-    /// changed.
-    void resume();
+    bool is_suspended() const { return suspended_; }
+
+    /// Cancels the run in progress and starts no other one.
+    void suspend() override;
+    /// Starts a run for the command, if there is one: what the text was made of may have changed.
+    void resume() override;
 
     bool is_reading() const override { return thread_ && !thread_->is_idle(); }
 
