@@ -29,7 +29,10 @@ public:
     MVItemBase(const MVItemBase&) = delete;
     MVItemBase& operator=(const MVItemBase&) = delete;
 
-    virtual bool is_folder() const = 0;
+    bool is_folder() const { return as_folder() != nullptr; }
+
+    /// The item itself when it is a folder, else null.
+    virtual const MVItemFolder* as_folder() const { return nullptr; }
 
     const MVItemInfo& info() const { return info_; }
 

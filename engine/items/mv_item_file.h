@@ -7,6 +7,4 @@ class MVItemFile final : public MVItemBase
 {
 public:
     MVItemFile(MVItemInfo info, const MVItemFolder* parent) : MVItemBase(std::move(info), parent) {}
-
-    bool is_folder() const override { return false; }
 };

@@ -45,8 +45,8 @@ MVItemFolder::~MVItemFolder()
     while (!released.empty()) {
         const std::shared_ptr<MVItemBase> item = std::move(released.back());
         released.pop_back();
-        if (item->is_folder() && item.use_count() == 1)
-            static_cast<const MVItemFolder&>(*item).children_.release_into(released);
+        if (const MVItemFolder* folder = item->as_folder(); folder && item.use_count() == 1)
+            folder->children_.release_into(released);
     }
 }
 

@@ -20,7 +20,7 @@ public:
     MVItemFolder(const MVItemFolder&) = delete;
     MVItemFolder& operator=(const MVItemFolder&) = delete;
 
-    bool is_folder() const override { return true; }
+    const MVItemFolder* as_folder() const override { return this; }
 
     /// Reads the directory, the shares for a server alone, at most once: an unreadable folder counts as read and
     /// empty. A child that was there before takes over the read's times and size. No two threads may be in here for
