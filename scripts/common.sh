@@ -15,6 +15,9 @@ export CCACHE_ABSSTDERR=1
 
 say() { printf '%s\n' "$*" >&2; }
 
+# shellcheck source=progress.sh
+source "$root/scripts/progress.sh"
+
 fail() {
     say "$*"
     exit 1
@@ -39,6 +42,7 @@ quietly() {
 configure() {
     local preset=$1 out
     shift
+    [[ -e $root/build/$preset/build.ninja ]] || say "Configuring"
     # CMake tells the same dozen findings every time, so here even a terminal sees them only after a failure.
     if ! out=$(cmake -S "$root" --preset "$preset" "$@" 2>&1); then
         say "$out"
@@ -50,5 +54,5 @@ configure() {
 build() {
     local preset=$1
     shift
-    (cd -- "$root/build/$preset" && quietly ninja "$@") || fail "Building the preset '$preset' failed."
+    (cd -- "$root/build/$preset" && with_progress building_step ninja "$@") || fail "Building the preset '$preset' failed."
 }

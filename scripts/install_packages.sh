@@ -35,11 +35,34 @@ missing_of() {
     done
 }
 
-# Runs apt-get as root, directly or through sudo.
+fetching_step() { step='Fetching the lists of packages'; }
+
+# apt-get tells how many packages there will be, and then goes through them three times.
+package_count=0
+packages_begun=0
+installing_step() {
+    local words
+    read -ra words <<<"$1"
+    case $1 in
+        *' newly installed, '*) package_count=$((words[0] + words[2])) ;;
+        Get:*) package_step Downloading "${words[4]}" ;;
+        'Unpacking '*) package_step Installing "${words[1]}" ;;
+        'Setting up '*) package_step 'Setting up' "${words[2]}" ;;
+    esac
+}
+
+# package_step VERB PACKAGE
+package_step() {
+    [[ ${1%% *} == "$stage" ]] || packages_begun=0
+    step="$1 ${2%%:*} ... ($((++packages_begun)) of $package_count)"
+}
+
+# apt STEP ARGS...: runs apt-get as root, directly or through sudo, in English as the function STEP knows it.
 apt() {
-    local as_root=()
+    local as_root=() step=$1
+    shift
     ((EUID == 0)) || as_root=(sudo)
-    quietly "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -y -q \
+    with_progress "$step" "${as_root[@]}" env LC_ALL=C DEBIAN_FRONTEND=noninteractive apt-get -y -q \
         -o DPkg::Lock::Timeout=300 -o Dpkg::Use-Pty=0 "$@" </dev/null
 }
 
@@ -50,8 +73,8 @@ install() {
         fail "Packages are missing; to install them takes root or sudo, and neither is here. $by_hand"
     say "Installing: $*"
     # Some other source of this machine may be the one that is gone, so what decides is whether the packages come.
-    apt -o APT::Update::Error-Mode=any update || say "apt-get update failed; going on with the lists that are here."
-    apt install --no-install-recommends "$@" || fail "apt-get install failed. $by_hand"
+    apt fetching_step -o APT::Update::Error-Mode=any update || say "apt-get update failed; going on with the lists that are here."
+    apt installing_step install --no-install-recommends "$@" || fail "apt-get install failed. $by_hand"
 }
 
 main() {
