@@ -64,10 +64,11 @@ public:
                 continue;
             }
             const MVItemBase& child = **next++;
-            if (!child.is_folder())
+            const MVItemFolder* subfolder = child.as_folder();
+            if (!subfolder)
                 add_file(child);
-            else if (const auto& children = static_cast<const MVItemFolder&>(child).children(); !children.empty())
-                open.emplace_back(children.begin(), children.end());
+            else if (!subfolder->children().empty())
+                open.emplace_back(subfolder->children().begin(), subfolder->children().end());
         }
     }
 
@@ -85,11 +86,11 @@ std::vector<Job> jobs_for(std::span<const MVItemBase* const> items, const std::s
 {
     JobList list(types, [&] { return sink.is_cancelled(); });
     for (const MVItemBase* item : items) {
-        if (!item->is_folder())
+        const MVItemFolder* folder = item->as_folder();
+        if (!folder)
             list.add_file(*item);
-        else if (const auto& folder = static_cast<const MVItemFolder&>(*item);
-                 uses_folder_data && folder.children_loaded())
-            list.add_files_below(folder);
+        else if (uses_folder_data && folder->children_loaded())
+            list.add_files_below(*folder);
     }
     return list.take();
 }

@@ -22,8 +22,8 @@ public:
 
     void add(const MVItemBase& item)
     {
-        if (item.is_folder())
-            add_files_below(static_cast<const MVItemFolder&>(item), 1);
+        if (const MVItemFolder* folder = item.as_folder())
+            add_files_below(*folder, 1);
         else
             files_.push_back(&item);
     }
@@ -39,13 +39,13 @@ private:
             folder.load_children([this] { return sink_.is_cancelled(); });
         }
         for (const auto& child : folder.children()) {
-            if (!child->is_folder()) {
-                files_.push_back(child.get());
-            } else {
+            if (const MVItemFolder* subfolder = child->as_folder()) {
                 if (child->is_link() || (enters_below(level) && !passes(*child)))
                     continue;
-                if (enters_below(level) && !add_files_below(static_cast<const MVItemFolder&>(*child), level + 1))
+                if (enters_below(level) && !add_files_below(*subfolder, level + 1))
                     return false;
+            } else {
+                files_.push_back(child.get());
             }
             if (sink_.is_cancelled())
                 return false;
@@ -88,8 +88,8 @@ Folders read_level(const Folders& folders, ItemProgressSink& sink)
         sink.report_item(folder.full_path());
         folder.load_children(cancelled);
         for (const auto& child : folder.children())
-            if (child->is_folder() && !child->is_link())
-                found[thread].push_back(static_cast<const MVItemFolder*>(child.get()));
+            if (const MVItemFolder* subfolder = child->as_folder(); subfolder && !child->is_link())
+                found[thread].push_back(subfolder);
     };
     for_each_parallel(folders.size(), cancelled, read);
     Folders next_level;
@@ -118,8 +118,8 @@ void precache_folders(std::span<const MVItemBase* const> items, ItemProgressSink
     Folders folders;
     for (const MVItemBase* item : items) {
         cancel_point.step();
-        if (item->is_folder())
-            folders.push_back(static_cast<const MVItemFolder*>(item));
+        if (const MVItemFolder* folder = item->as_folder())
+            folders.push_back(folder);
     }
     for (int pass = 0; pass < max_folder_level; ++pass) {
         keep_unread(folders, cancel_point);
