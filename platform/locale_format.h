@@ -13,7 +13,8 @@ enum class DateStyle { Short, Long };
 /// The locale's short or long date. Empty when the date doesn't exist.
 std::u16string date_text(const BrokenDownTime& time, DateStyle style);
 
-/// The locale's time of day with seconds, without a zone. Empty when the time doesn't exist.
+/// The locale's time of day with seconds, on its clock of 12 or 24 hours, without words or a zone. Empty when the
+/// time doesn't exist.
 std::u16string time_text(const BrokenDownTime& time);
 
 /// A date by a picture: d dd (day), ddd dddd (weekday's short and full name), M MM, MMM MMMM (month's names, in the

@@ -1,7 +1,11 @@
+#include "platform/host/time_form.h"
 #include "platform/locale_format.h"
 #include "platform/paths.h"
 
 #include <gtest/gtest.h>
+
+#include <QRegularExpression>
+#include <QTime>
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -10,6 +14,7 @@
 #include <array>
 #include <cstdlib>
 #include <functional>
+#include <set>
 #include <thread>
 #include <vector>
 
@@ -78,6 +83,7 @@ TEST(LocaleFormat, TimePictures)
         {"en_US.UTF-8", u"htt h 'tt' d", "12PM 12 tt d", {2024, 1, 1, 1, 12}},
         {"en_US.UTF-8", u"H", "", {2024, 1, 1, 1, 24}},
         {"ja_JP.UTF-8", u"t tt", "午 午後"},
+        {"en_CA.UTF-8", u"tt", "p.m."},
     };
     for (const Row& row : rows)
         EXPECT_EQ(in_locale(row.locale, [&] { return platform::time_by_picture(row.time, row.picture); }),
@@ -97,13 +103,34 @@ TEST(LocaleFormat, StylesOfTheLocale)
         {"C", "5 Mar 2024|Tuesday, 5 March 2024|19:09:03|,"},
         {"en_US.UTF-8", "3/5/24|Tuesday, March 5, 2024|7:09:03 PM|,"},
         {"de_DE.UTF-8", "05.03.24|Dienstag, 5. März 2024|19:09:03|."},
-        {"fr_CA.UTF-8", "2024-03-05|mardi 5 mars 2024|19 h 09 min 03 s|\u00A0"},
-        {"fa_IR.UTF-8", "۲۰۲۴/۳/۵|سه\u200Cشنبه ۵ مارس ۲۰۲۴|۱۹:۰۹:۰۳|\u066C"}, // the zone stands in brackets
-        {"zh_CN.UTF-8", "2024/3/5|2024年3月5日星期二|19:09:03|,"},            // the zone stands in front
+        {"en_CA.UTF-8", "2024-03-05|Tuesday, March 5, 2024|7:09:03 p.m.|,"},
+        {"fr_CA.UTF-8", "2024-03-05|mardi 5 mars 2024|19:09:03|\u00A0"},
+        {"fi_FI.UTF-8", "5.3.2024|tiistaina 5. maaliskuuta 2024|19.09.03|\u00A0"},
+        {"fa_IR.UTF-8", "۲۰۲۴/۳/۵|سه\u200Cشنبه ۵ مارس ۲۰۲۴|۱۹:۰۹:۰۳|\u066C"},
+        {"zh_TW.UTF-8", "2024/3/5|2024年3月5日 星期二|下午7:09:03|,"},
     };
     for (const auto& [locale, expected] : rows)
         EXPECT_EQ(in_locale(locale, [] { return styles(march); }), expected);
     EXPECT_EQ(in_locale("C", [] { return styles({2023, 2, 0, 29, 12, 60}); }), "|||,");
+}
+
+TEST(LocaleFormat, TimesHaveNoWordsInAnyLocale)
+{
+    const QRegularExpression plain("^\\s?\\p{Nd}{1,2}([:.])\\p{Nd}{2}\\1\\p{Nd}{2}\\s?$",
+                                   QRegularExpression::UseUnicodePropertiesOption);
+    const auto locales = QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyTerritory);
+    EXPECT_GT(locales.size(), 500);
+    for (const QLocale& locale : locales) {
+        const QString form = platform::plain_time_form(locale);
+        std::set<QString> texts;
+        for (const int hour : {0, 7, 12, 19}) {
+            QString text = locale.toString(QTime(hour, 9, 3), form);
+            texts.insert(text);
+            text.remove(hour < 12 ? locale.amText() : locale.pmText());
+            EXPECT_TRUE(plain.match(text).hasMatch()) << locale.name().toStdString() << ": " << text.toStdString();
+        }
+        EXPECT_EQ(texts.size(), 4u) << locale.name().toStdString();
+    }
 }
 
 TEST(LocaleFormat, FirstUseOnSeveralThreads)
