@@ -19,7 +19,8 @@ struct BrokenDownTime {
 /// Splits a count of 100 ns since 1601 UTC. Empty for a negative count or a year above 30827.
 std::optional<BrokenDownTime> to_utc_time(std::int64_t ticks);
 
-/// The same moment in the machine's time zone ($TZ, else /etc/localtime), by the daylight rule of that date.
+/// The same moment in the machine's time zone ($TZ, else /etc/localtime), by the daylight rule of that date. A change
+/// of the zone counts after a second.
 /// Empty for a count that `to_utc_time` refuses and for a local year outside 1601 to 30827.
 std::optional<BrokenDownTime> to_local_time(std::int64_t ticks);
 

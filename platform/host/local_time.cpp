@@ -36,11 +36,26 @@ struct Bucket {
     std::int64_t offset = 0;
 };
 
+using Buckets = std::array<Bucket, 256>;
+
+/// Empty again each second, with the C library looking whether the machine has moved to another zone.
+Buckets& current_buckets()
+{
+    thread_local Buckets buckets;
+    thread_local std::time_t looked_at = 0;
+    if (const std::time_t now = std::time(nullptr); now != looked_at) {
+        tzset();
+        buckets.fill({});
+        looked_at = now;
+    }
+    return buckets;
+}
+
 /// Asking the C library takes a lock and a search: a folder's files lie close together in time, so most moments find
 /// their quarter of an hour here. A quarter in which the offset changes is never kept.
 std::optional<std::int64_t> local_offset(std::int64_t seconds_since_1601)
 {
-    thread_local std::array<Bucket, 256> buckets;
+    Buckets& buckets = current_buckets();
     const std::int64_t number = seconds_since_1601 / bucket_seconds;
     Bucket& bucket = buckets[static_cast<std::size_t>(number) % buckets.size()];
     if (bucket.number == number)
@@ -52,12 +67,6 @@ std::optional<std::int64_t> local_offset(std::int64_t seconds_since_1601)
     if (offset)
         bucket = {number, *offset};
     return offset;
-}
-
-void read_zone_once()
-{
-    static const bool is_read = (tzset(), true);
-    static_cast<void>(is_read);
 }
 
 }
@@ -85,7 +94,6 @@ std::optional<BrokenDownTime> to_local_time(std::int64_t ticks)
 {
     if (!to_utc_time(ticks))
         return {};
-    read_zone_once();
     const auto offset = local_offset(ticks / ticks_per_second);
     return offset ? to_utc_time(ticks + *offset * ticks_per_second) : std::nullopt;
 }

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <cstdlib>
 #include <ctime>
 #include <limits>
@@ -72,6 +73,19 @@ TEST(LocalTime, DaylightRuleOfTheDate)
     in_zone("<+0845>-8:45",
             [] { EXPECT_EQ(text(platform::to_local_time(of_1970)), "1970-01-01 08:45:00.000 day 4"); });
     in_zone("EST5", [] { EXPECT_EQ(text(platform::to_local_time(0)), "none"); });
+}
+
+TEST(LocalTime, FollowsTheZone)
+{
+    in_zone("AAA-1", [] {
+        const auto local = [] { return text(platform::to_local_time(of_1970)); };
+        EXPECT_EQ(local(), "1970-01-01 01:00:00.000 day 4");
+        setenv("TZ", "BBB-2", 1);
+        const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(60);
+        while (local() == "1970-01-01 01:00:00.000 day 4" && std::chrono::steady_clock::now() < end)
+            std::this_thread::yield();
+        EXPECT_EQ(local(), "1970-01-01 02:00:00.000 day 4");
+    });
 }
 
 /// Clocks that change at odd moments of the hour, as many did before there were zones.
