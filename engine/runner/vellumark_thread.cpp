@@ -30,22 +30,30 @@ void VellumarkThread::request(const VellumarkCommand* command, std::uint32_t id)
 {
     // Copied here, for the caller may change the command as soon as this returns.
     auto copy = command ? std::make_unique<const VellumarkCommand>(*command) : nullptr;
-    const std::lock_guard lock(mutex_);
+    std::unique_lock lock(mutex_);
     pending_command_ = std::move(copy);
     pending_request_id_ = id;
     if (state_ == State::Running)
         state_ = State::Restart;
     if (state_ != State::Idle || !pending_command_)
         return;
-    if (thread_.joinable() && thread_.get_id() != std::this_thread::get_id())
-        thread_.join();
     try {
+        join_finished(lock);
         thread_ = std::thread(&VellumarkThread::work, this);
     } catch (...) {
         pending_command_.reset();
         throw;
     }
     state_ = State::Running;
+}
+
+void VellumarkThread::join_finished(std::unique_lock<std::mutex>& lock)
+{
+    std::thread finished = std::move(thread_);
+    lock.unlock();
+    if (finished.joinable())
+        finished.join();
+    lock.lock();
 }
 
 bool VellumarkThread::is_running() const

@@ -49,6 +49,9 @@ private:
         Stopping
     };
 
+    /// Without the lock meanwhile: the thread may still be telling the watcher that it is idle. No one else starts a
+    /// thread then.
+    void join_finished(std::unique_lock<std::mutex>& lock);
     void work();
     /// Takes the request that waits. False, and idle, when there is none.
     bool take_request();

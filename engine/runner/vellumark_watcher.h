@@ -26,6 +26,7 @@ public:
     virtual void failure_report(std::u16string_view /*words*/, std::uint32_t /*request_id*/) {}
 
     /// The worker has stopped reading the selection and is idle; a request may have made it busy again before this
-    /// is told. Called on the worker thread, which then ends. Makes no request. Not told when the thread object goes.
+    /// is told. Called on the worker thread, which then ends. May ask the thread object how things are, but makes no
+    /// request. Not told when the thread object goes.
     virtual void worker_idle() {}
 };
