@@ -70,6 +70,9 @@ void for_each_parallel(std::size_t work_size, const std::function<bool()>& stop,
             } catch (const std::system_error&) {
                 // The machine gives no more threads: those that run share the work.
                 break;
+            } catch (...) {
+                failure.keep_current();
+                break;
             }
         }
         run(0);
