@@ -3,18 +3,9 @@
 #include "engine/text/json_access.h"
 #include "engine/text/utf.h"
 
-#include <stdexcept>
-
 namespace json = boost::json;
 
 namespace {
-
-template <typename Row, std::size_t N, typename E>
-E value_or(const std::array<Row, N>& rows, std::string_view string, E unknown)
-{
-    const auto* row = find_json(rows, string);
-    return row ? row->value : unknown;
-}
 
 /// Commands from before there were rules only had two flags.
 ShowRule read_show_rule(const json::object& object)
@@ -30,10 +21,7 @@ ShowRule read_show_rule(const json::object& object)
 
 void write_show_rule(json::object& object, ShowRule rule)
 {
-    const auto* row = find_value(show_rules, rule);
-    if (!row)
-        throw std::runtime_error("Unknown ShowRule value");
-    object["showRule"] = row->json;
+    object["showRule"] = known_json(show_rules, rule, "Unknown ShowRule value");
     object["showIfFilesSelected"] = rule != ShowRule::AtLeastOneFolder && rule != ShowRule::ExactlyOneFolder;
     object["showIfFoldersSelected"] = rule != ShowRule::AtLeastOneFile && rule != ShowRule::ExactlyOneFile;
 }
@@ -74,10 +62,7 @@ json::object VellumarkCommand::to_json() const
     object["separator"] = to_utf8(fields_.separator);
     object["startText"] = to_utf8(fields_.start_text);
     object["endText"] = to_utf8(fields_.end_text);
-    const auto* order = find_value(sort_orders, fields_.sort_order);
-    if (!order)
-        throw std::runtime_error("Unknown VellumarkCommand::Sort value");
-    object["sortOrder"] = order->json;
+    object["sortOrder"] = known_json(sort_orders, fields_.sort_order, "Unknown VellumarkCommand::Sort value");
     object["noStartEndTextIfOneItem"] = fields_.no_start_end_text_if_one_item;
     object["fileParts"] = fields_.file_parts->to_json();
     if (!fields_.same_parts_for_folders)

@@ -3,6 +3,9 @@
 #include "engine/parts/text_run_context.h"
 #include "engine/text/json_access.h"
 #include "engine/text/number_grouping.h"
+#include "platform/decimal_text.h"
+
+#include <algorithm>
 
 ItemPartAutoNumber::ItemPartAutoNumber(const boost::json::object& json)
     : start_(json_access::required_uint64(json, "start")), step_(json_access::required_uint64(json, "step")),
@@ -20,9 +23,9 @@ boost::json::object ItemPartAutoNumber::to_json() const
 
 void ItemPartAutoNumber::append_text(TextRunContext& context, const MVItemBase&, int) const
 {
-    std::u16string text = decimal_text(context.counter++ * step_ + start_);
-    if (add_leading_zeros_ && n_digits_ > 0 && text.size() < static_cast<std::size_t>(n_digits_))
-        text.insert(0, static_cast<std::size_t>(n_digits_) - text.size(), u'0');
+    const std::int32_t width = add_leading_zeros_ ? std::max(n_digits_, 0) : 0;
+    std::u16string text =
+        platform::decimal_text(context.counter++ * step_ + start_, static_cast<std::size_t>(width));
     if (add_thousands_separator_)
         text = group_digits(text);
     context.output.append(text);

@@ -5,8 +5,6 @@
 #include "engine/parts/text_run_context.h"
 #include "engine/text/json_access.h"
 
-#include <stdexcept>
-
 namespace {
 
 /// The cached checksum, computed here when no one has done it before.
@@ -24,20 +22,15 @@ std::u16string checksum_of(const MVItemBase& item, ChecksumType type)
 }
 
 ItemPartChecksum::ItemPartChecksum(const boost::json::object& json)
-{
-    const auto* row = find_json(checksum_types, json_access::required_string(json, "checksum-type"));
-    if (!row)
-        throw std::runtime_error("Unknown ItemPartChecksum::ChecksumType string");
-    checksum_type_ = row->value;
-    uppercase_ = json_access::optional_bool(json, "uppercase", false);
-}
+    : checksum_type_(known_value(checksum_types, json_access::required_string(json, "checksum-type"),
+                                 "Unknown ItemPartChecksum::ChecksumType string")),
+      uppercase_(json_access::optional_bool(json, "uppercase", false))
+{}
 
 boost::json::object ItemPartChecksum::to_json() const
 {
-    const auto* row = find_value(checksum_types, checksum_type_);
-    if (!row)
-        throw std::runtime_error("Unknown ItemPartChecksum::ChecksumType value");
-    return {{"checksum-type", row->json}, {"uppercase", uppercase_}};
+    const auto type = known_json(checksum_types, checksum_type_, "Unknown ItemPartChecksum::ChecksumType value");
+    return {{"checksum-type", type}, {"uppercase", uppercase_}};
 }
 
 void ItemPartChecksum::append_text(TextRunContext& context, const MVItemBase& item, int) const

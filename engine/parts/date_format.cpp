@@ -1,31 +1,21 @@
 #include "engine/parts/date_part.h"
-#include "engine/text/number_grouping.h"
+#include "platform/decimal_text.h"
 #include "platform/local_time.h"
 #include "platform/locale_format.h"
 
 namespace {
 
 using platform::BrokenDownTime;
+using platform::decimal_text;
 using DateFormat = ItemPartDate::DateFormat;
-
-void append_padded(std::u16string& text, unsigned number, std::size_t digits)
-{
-    const std::u16string decimal = decimal_text(number);
-    if (decimal.size() < digits)
-        text.append(digits - decimal.size(), u'0');
-    text += decimal;
-}
 
 std::u16string iso_text(const BrokenDownTime& time, char16_t between, char16_t in_time)
 {
-    std::u16string text;
-    append_padded(text, time.year, 4);
-    append_padded(text += u'-', time.month, 2);
-    append_padded(text += u'-', time.day, 2);
-    append_padded(text += between, time.hour, 2);
-    append_padded(text += in_time, time.minute, 2);
-    append_padded(text += in_time, time.second, 2);
-    return text;
+    const auto two_digits = [](unsigned number) { return decimal_text(number, 2); };
+    const std::u16string date =
+        decimal_text(time.year, 4) + u'-' + two_digits(time.month) + u'-' + two_digits(time.day);
+    return date + between + two_digits(time.hour) + in_time + two_digits(time.minute) + in_time +
+           two_digits(time.second);
 }
 
 std::u16string with_time(std::u16string date, const BrokenDownTime& time)

@@ -5,8 +5,6 @@
 #include "engine/text/json_access.h"
 #include "platform/local_time.h"
 
-#include <stdexcept>
-
 namespace {
 
 std::int64_t time_of(const MVItemInfo& info, ItemPartDate::DateType type)
@@ -22,27 +20,18 @@ std::int64_t time_of(const MVItemInfo& info, ItemPartDate::DateType type)
 }
 
 ItemPartDate::ItemPartDate(const boost::json::object& json)
-{
-    const auto* type = find_json(date_types, json_access::required_string(json, "dateType"));
-    if (!type)
-        throw std::runtime_error("Unknown ItemPartDate::DateType string");
-    const auto* format = find_json(date_formats, json_access::required_string(json, "dateFormat"));
-    if (!format)
-        throw std::runtime_error("Unknown ItemPartDate::DateFormat string");
-    date_type_ = type->value;
-    date_format_ = format->value;
-    add_leading_zeros_ = json_access::optional_bool(json, "addLeadingZeros", false);
-}
+    : date_type_(known_value(date_types, json_access::required_string(json, "dateType"),
+                             "Unknown ItemPartDate::DateType string")),
+      date_format_(known_value(date_formats, json_access::required_string(json, "dateFormat"),
+                               "Unknown ItemPartDate::DateFormat string")),
+      add_leading_zeros_(json_access::optional_bool(json, "addLeadingZeros", false))
+{}
 
 boost::json::object ItemPartDate::to_json() const
 {
-    const auto* type = find_value(date_types, date_type_);
-    if (!type)
-        throw std::runtime_error("Unknown ItemPartDate::DateType value");
-    const auto* format = find_value(date_formats, date_format_);
-    if (!format)
-        throw std::runtime_error("Unknown ItemPartDate::DateFormat value");
-    return {{"dateType", type->json}, {"dateFormat", format->json}, {"addLeadingZeros", add_leading_zeros_}};
+    const auto type = known_json(date_types, date_type_, "Unknown ItemPartDate::DateType value");
+    const auto format = known_json(date_formats, date_format_, "Unknown ItemPartDate::DateFormat value");
+    return {{"dateType", type}, {"dateFormat", format}, {"addLeadingZeros", add_leading_zeros_}};
 }
 
 bool ItemPartDate::leading_zeros_apply(DateFormat format)

@@ -21,14 +21,14 @@ boost::json::object ItemPartFolderContents::to_json() const
 
 void ItemPartFolderContents::append_text(TextRunContext& context, const MVItemBase& item, int level) const
 {
-    if (!item.is_folder() || (level >= 1 && item.is_link()) || level + 1 > max_folder_level || !context.command)
+    const MVItemFolder* folder = item.as_folder();
+    if (!folder || (level >= 1 && item.is_link()) || level + 1 > max_folder_level || !context.command)
         return;
     context.sink->report_item(item.full_path());
-    const auto& folder = static_cast<const MVItemFolder&>(item);
-    folder.load_children([&context] { return context.sink->is_cancelled(); });
+    folder->load_children([&context] { return context.sink->is_cancelled(); });
     TextRunContext nested{context.command, context.sink,
                           TextOutput(context.output, {start_text_, indent_text_, end_text_})};
-    append_children(nested, folder, level + 1);
+    append_children(nested, *folder, level + 1);
     nested.output.close();
 }
 
@@ -49,35 +49,4 @@ void ItemPartFolderContents::append_children(TextRunContext& context, const MVIt
         if (!context.command->append_item(context, *child, level))
             return;
     }
-}
-
-void ItemPartFolderContents::assign_from(const ItemPartBase& other)
-{
-    const auto* part = dynamic_cast<const ItemPartFolderContents*>(&other);
-    if (!part || part->content_kind() != content_kind())
-        return;
-    indent_text_ = part->indent_text_;
-    start_text_ = part->start_text_;
-    end_text_ = part->end_text_;
-}
-
-bool ItemPartFolderContents::equals(const ItemPartBase& other) const
-{
-    const auto* part = dynamic_cast<const ItemPartFolderContents*>(&other);
-    return part && part->content_kind() == content_kind() && part->indent_text_ == indent_text_ &&
-           part->start_text_ == start_text_ && part->end_text_ == end_text_;
-}
-
-ItemPartFolderFiles::ItemPartFolderFiles(const boost::json::object& json) : ItemPartFolderContents(json) {}
-
-std::unique_ptr<ItemPartBase> ItemPartFolderFiles::clone() const
-{
-    return std::make_unique<ItemPartFolderFiles>(*this);
-}
-
-ItemPartFolderSubfolders::ItemPartFolderSubfolders(const boost::json::object& json) : ItemPartFolderContents(json) {}
-
-std::unique_ptr<ItemPartBase> ItemPartFolderSubfolders::clone() const
-{
-    return std::make_unique<ItemPartFolderSubfolders>(*this);
 }

@@ -3,6 +3,7 @@
 #include "engine/parts/item_part_base.h"
 
 #include <string>
+#include <tuple>
 
 class MVItemFolder;
 class VellumarkCommand;
@@ -30,10 +31,10 @@ public:
     /// Reads the folder where that has not been done. A link to a folder is expanded at level 0 only, and nothing
     /// below level 1024.
     void append_text(TextRunContext& context, const MVItemBase& item, int level) const override;
-    void assign_from(const ItemPartBase& other) override;
-    bool equals(const ItemPartBase& other) const override;
     /// Which children the part visits.
     virtual ContentKind content_kind() const = 0;
+
+    auto settings() const { return std::tie(indent_text_, start_text_, end_text_); }
 
 protected:
     ItemPartFolderContents() = default;
@@ -48,30 +49,26 @@ private:
     std::u16string end_text_;
 };
 
-class ItemPartFolderFiles final : public ItemPartFolderContents
+class ItemPartFolderFiles final
+    : public ItemPart<ItemPartFolderFiles, ItemPartBase::Type::FolderFiles, ItemPartFolderContents>
 {
 public:
     ItemPartFolderFiles() = default;
+
     /// Every key is optional.
-    explicit ItemPartFolderFiles(const boost::json::object& json);
-
-    Type type() const override { return Type::FolderFiles; }
-
-    std::unique_ptr<ItemPartBase> clone() const override;
+    explicit ItemPartFolderFiles(const boost::json::object& json) : ItemPart(json) {}
 
     ContentKind content_kind() const override { return ContentKind::Files; }
 };
 
-class ItemPartFolderSubfolders final : public ItemPartFolderContents
+class ItemPartFolderSubfolders final
+    : public ItemPart<ItemPartFolderSubfolders, ItemPartBase::Type::FolderSubfolders, ItemPartFolderContents>
 {
 public:
     ItemPartFolderSubfolders() = default;
+
     /// Every key is optional.
-    explicit ItemPartFolderSubfolders(const boost::json::object& json);
-
-    Type type() const override { return Type::FolderSubfolders; }
-
-    std::unique_ptr<ItemPartBase> clone() const override;
+    explicit ItemPartFolderSubfolders(const boost::json::object& json) : ItemPart(json) {}
 
     ContentKind content_kind() const override { return ContentKind::Folders; }
 };

@@ -66,12 +66,15 @@ inline constexpr std::array<EnumRow<ItemPartBase::Type>, 10> item_part_types{{
 }};
 static_assert(is_complete(item_part_types));
 
-/// What every part class does alike. `Part` offers `settings()`: its settings as one comparable value.
-template <typename Part, ItemPartBase::Type Tag>
-class ItemPart : public ItemPartBase
+/// What every part class does alike. `Part` offers `settings()`: its settings as one comparable value. `Base` is what
+/// it has in common with its like alone.
+template <typename Part, ItemPartBase::Type Tag, typename Base = ItemPartBase>
+class ItemPart : public Base
 {
 public:
-    Type type() const final { return Tag; }
+    static constexpr ItemPartBase::Type tag = Tag;
+
+    ItemPartBase::Type type() const final { return Tag; }
 
     std::unique_ptr<ItemPartBase> clone() const final { return std::make_unique<Part>(self()); }
 
@@ -86,6 +89,9 @@ public:
         const auto* part = dynamic_cast<const Part*>(&other);
         return part && part->settings() == self().settings();
     }
+
+protected:
+    using Base::Base;
 
 private:
     const Part& self() const { return static_cast<const Part&>(*this); }

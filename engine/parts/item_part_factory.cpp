@@ -10,54 +10,46 @@
 #include "engine/parts/size_part.h"
 #include "engine/parts/text_part.h"
 
-#include <algorithm>
+#include <array>
+#include <cstddef>
 #include <stdexcept>
 
 namespace {
 
 struct Maker {
-    ItemPartBase::Type type;
+    ItemPartBase::Type value;
     std::unique_ptr<ItemPartBase> (*make)();
     std::unique_ptr<ItemPartBase> (*read)(const boost::json::object&);
 };
 
-template <typename Part>
-constexpr Maker maker(ItemPartBase::Type type)
+template <typename... Parts>
+constexpr std::array<Maker, sizeof...(Parts)> makers_of()
 {
-    return {type, &ItemPartFactory::make<Part>, &ItemPartFactory::make<Part>};
+    return {Maker{Parts::tag, &ItemPartFactory::make<Parts>, &ItemPartFactory::make<Parts>}...};
 }
 
-constexpr std::array makers{
-    maker<ItemPartText>(ItemPartBase::Type::Text),
-    maker<ItemPartName>(ItemPartBase::Type::Name),
-    maker<ItemPartPath>(ItemPartBase::Type::Path),
-    maker<ItemPartSize>(ItemPartBase::Type::Size),
-    maker<ItemPartDate>(ItemPartBase::Type::Date),
-    maker<ItemPartProperty>(ItemPartBase::Type::Property),
-    maker<ItemPartAutoNumber>(ItemPartBase::Type::AutoNumber),
-    maker<ItemPartFolderFiles>(ItemPartBase::Type::FolderFiles),
-    maker<ItemPartFolderSubfolders>(ItemPartBase::Type::FolderSubfolders),
-    maker<ItemPartChecksum>(ItemPartBase::Type::Checksum),
-};
+constexpr auto makers =
+    makers_of<ItemPartText, ItemPartName, ItemPartPath, ItemPartSize, ItemPartDate, ItemPartProperty,
+              ItemPartAutoNumber, ItemPartFolderFiles, ItemPartFolderSubfolders, ItemPartChecksum>();
 
-const Maker* find_maker(ItemPartBase::Type type)
+/// Every type has its maker, in the order of the types.
+consteval bool makers_are_complete()
 {
-    const auto found = std::ranges::find(makers, type, &Maker::type);
-    return found == makers.end() ? nullptr : &*found;
+    for (std::size_t i = 0; i < makers.size(); ++i)
+        if (makers[i].value != item_part_types[i].value)
+            return false;
+    return makers.size() == item_part_types.size();
 }
+
+static_assert(makers_are_complete());
 
 const Maker& maker_of(ItemPartBase::Type type)
 {
-    if (const Maker* found = find_maker(type))
+    if (const Maker* found = find_value(makers, type))
         return *found;
     throw std::runtime_error("ItemPartFactory::create(): Invalid type");
 }
 
-}
-
-bool ItemPartFactory::knows(ItemPartBase::Type type)
-{
-    return find_maker(type) != nullptr;
 }
 
 std::unique_ptr<ItemPartBase> ItemPartFactory::create(ItemPartBase::Type type)

@@ -8,11 +8,8 @@
 class ItemPartFactory
 {
 public:
-    /// Whether parts of this type can be made.
-    static bool knows(ItemPartBase::Type type);
-
-    /// A part with default settings. Throws std::runtime_error "ItemPartFactory::create(): Invalid type" for a type
-    /// that is not known.
+    /// A part with default settings. Throws std::runtime_error "ItemPartFactory::create(): Invalid type" for a value
+    /// that is no type.
     static std::unique_ptr<ItemPartBase> create(ItemPartBase::Type type);
 
     /// A part read from JSON; throws the same, and what the part's reader throws.

@@ -21,17 +21,14 @@ std::shared_ptr<ItemPartBase> read_part(const json::value& element)
     if (!object)
         throw std::runtime_error("JSON value not an object");
     const auto* row = find_json(item_part_types, json_access::required_string(*object, type_key));
-    return row && ItemPartFactory::knows(row->value) ? ItemPartFactory::create(row->value, *object) : nullptr;
+    return row ? ItemPartFactory::create(row->value, *object) : nullptr;
 }
 
 json::object part_to_json(const ItemPartBase& part)
 {
     json::object object = part.to_json();
-    const auto* row = find_value(item_part_types, part.type());
-    if (!row)
-        throw std::runtime_error("Unknown ItemPartBase::Type " +
-                                 std::to_string(static_cast<std::uint32_t>(part.type())));
-    object[type_key] = row->json;
+    const std::string error = "Unknown ItemPartBase::Type " + std::to_string(static_cast<std::uint32_t>(part.type()));
+    object[type_key] = known_json(item_part_types, part.type(), error);
     return object;
 }
 

@@ -4,15 +4,18 @@
 #include "engine/parts/item_name_text.h"
 #include "engine/text/json_access.h"
 
-#include <stdexcept>
+namespace {
 
-ItemPartName::ItemPartName(const boost::json::object& json)
+ItemPartName::NameType read_name_type(const boost::json::object& json)
 {
-    const std::string_view type = json_access::required_string(json, "name-type");
-    const auto* row = find_json(name_types, type);
-    if (!row)
-        throw std::runtime_error("Unknown ItemPartName::NameType '" + std::string(type) + "'");
-    name_type_ = row->value;
+    const std::string type(json_access::required_string(json, "name-type"));
+    return known_value(name_types, type, "Unknown ItemPartName::NameType '" + type + "'");
+}
+
+}
+
+ItemPartName::ItemPartName(const boost::json::object& json) : name_type_(read_name_type(json))
+{
     if (name_type_ == NameType::SelectorPart)
         selector_part_index_ = json_access::required_int32(json, "selector-part-index");
     case_type_ = MVCaseTypeUtils::from_string(json_access::optional_string(json, "case-type"));
@@ -20,11 +23,9 @@ ItemPartName::ItemPartName(const boost::json::object& json)
 
 boost::json::object ItemPartName::to_json() const
 {
-    const auto* row = find_value(name_types, name_type_);
-    if (!row)
-        throw std::runtime_error("Unknown ItemPartName::NameType " +
-                                 std::to_string(static_cast<std::uint32_t>(name_type_)));
-    boost::json::object json{{"name-type", row->json}};
+    const std::string error =
+        "Unknown ItemPartName::NameType " + std::to_string(static_cast<std::uint32_t>(name_type_));
+    boost::json::object json{{"name-type", known_json(name_types, name_type_, error)}};
     if (name_type_ == NameType::SelectorPart)
         json["selector-part-index"] = selector_part_index_;
     if (case_type_ != CaseType::Unchanged)

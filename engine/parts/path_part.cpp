@@ -8,7 +8,6 @@
 #include "platform/files.h"
 
 #include <limits>
-#include <stdexcept>
 
 namespace {
 
@@ -18,10 +17,8 @@ ItemPartPath::PathType read_path_type(const boost::json::object& json)
     using enum ItemPartPath::PathType;
     if (!json.contains("path-type"))
         return json_access::optional_bool(json, "include-item-name", true) ? FullPath : PathToParentFolder;
-    const std::string_view type = json_access::required_string(json, "path-type");
-    if (const auto* row = find_json(path_types, type))
-        return row->value;
-    throw std::runtime_error("Unknown ItemPartPath::PathType '" + std::string(type) + "'");
+    const std::string type(json_access::required_string(json, "path-type"));
+    return known_value(path_types, type, "Unknown ItemPartPath::PathType '" + type + "'");
 }
 
 }
@@ -43,11 +40,10 @@ void ItemPartPath::set_separator_text(std::u16string text)
 
 boost::json::object ItemPartPath::to_json() const
 {
-    const auto* row = find_value(path_types, path_type_);
-    if (!row)
-        throw std::runtime_error("Unknown ItemPartPath::PathType " +
-                                 std::to_string(static_cast<std::uint32_t>(path_type_)));
-    boost::json::object json{{"path-type", row->json}, {"limit-num-parents", limit_num_parents_}};
+    const std::string error =
+        "Unknown ItemPartPath::PathType " + std::to_string(static_cast<std::uint32_t>(path_type_));
+    boost::json::object json{{"path-type", known_json(path_types, path_type_, error)},
+                             {"limit-num-parents", limit_num_parents_}};
     if (limit_num_parents_)
         json["num-parents"] = num_parents_;
     json["separator-text"] = to_utf8(separator_text_);

@@ -1,5 +1,6 @@
 #include "engine/parts/property_part.h"
 #include "engine/text/number_grouping.h"
+#include "platform/decimal_text.h"
 #include "platform/local_time.h"
 
 #include <array>
@@ -30,7 +31,7 @@ std::u16string trimmed_decimal(double value, int decimals)
 std::u16string signed_text(std::int64_t value, bool grouped)
 {
     const auto magnitude = value < 0 ? 0 - static_cast<std::uint64_t>(value) : static_cast<std::uint64_t>(value);
-    std::u16string text = decimal_text(magnitude);
+    std::u16string text = platform::decimal_text(magnitude);
     if (value < 0)
         text.insert(0, 1, u'-');
     return grouped ? group_digits(text) : text;
@@ -43,8 +44,7 @@ std::u16string signed_size_text(std::int64_t value, ItemPartSize::SizeFormat for
         return size_text(static_cast<std::uint64_t>(value), format, grouped);
     if (format == ItemPartSize::SizeFormat::Auto)
         return signed_text(value, grouped) + u"B";
-    const auto* row = find_value(size_formats, format);
-    const std::int64_t divisor = std::int64_t{1} << (row ? row->shift : 0);
+    const std::int64_t divisor = std::int64_t{1} << row_or_first(size_formats, format).shift;
     return signed_text((value + (divisor - 1)) / divisor, grouped);
 }
 
@@ -93,9 +93,8 @@ std::u16string ItemPartProperty::formatted(const platform::PropertyValue& value)
         break;
     case ValueType::Boolean:
         if (const auto truth = platform::to_bool(value)) {
-            const auto* row = find_value(boolean_formats, boolean_format_);
-            return std::u16string(*truth ? (row ? row : &boolean_formats.front())->if_true
-                                         : (row ? row : &boolean_formats.front())->if_false);
+            const BooleanFormatRow& row = row_or_first(boolean_formats, boolean_format_);
+            return std::u16string(*truth ? row.if_true : row.if_false);
         }
         break;
     case ValueType::Size:

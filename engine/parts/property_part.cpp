@@ -10,20 +10,11 @@ namespace {
 
 using ValueType = ItemPartProperty::ValueType;
 
-/// The row's JSON string; the first row's for a value outside the table.
-template <typename Row, std::size_t N>
-std::string_view json_of(const std::array<Row, N>& rows, decltype(Row::value) value)
-{
-    const auto* row = find_value(rows, value);
-    return row ? row->json : rows.front().json;
-}
-
 /// The enumerator of an optional key; the first row's when the key is missing or its string unknown.
 template <typename Row, std::size_t N>
 auto read_value(const std::array<Row, N>& rows, const boost::json::object& json, std::string_view key)
 {
-    const auto* row = find_json(rows, json_access::optional_string(json, key));
-    return row ? row->value : rows.front().value;
+    return value_or(rows, json_access::optional_string(json, key), rows.front().value);
 }
 
 }
@@ -46,7 +37,7 @@ boost::json::object ItemPartProperty::to_json() const
     boost::json::object json{{"property-name", to_utf8(property_name_)}};
     if (custom_format_) {
         json["custom-format"] = true;
-        json["value-type"] = json_of(property_value_types, value_type_);
+        json["value-type"] = row_or_first(property_value_types, value_type_).json;
         write_format(json);
     }
     return json;
@@ -59,13 +50,13 @@ void ItemPartProperty::write_format(boost::json::object& json) const
     case ValueType::Default: break;
     case ValueType::Numeric: json["add-thousands-separator"] = add_thousands_separator_; break;
     case ValueType::DateTime:
-        json["date-format"] = json_of(date_formats, date_format_);
+        json["date-format"] = row_or_first(date_formats, date_format_).json;
         json["add-leading-zeros"] = add_leading_zeros_;
         break;
     case ValueType::String: json["case-type"] = MVCaseTypeUtils::to_string(case_type_); break;
-    case ValueType::Boolean: json["boolean-format"] = json_of(boolean_formats, boolean_format_); break;
+    case ValueType::Boolean: json["boolean-format"] = row_or_first(boolean_formats, boolean_format_).json; break;
     case ValueType::Size:
-        json["size-format"] = json_of(size_formats, size_format_);
+        json["size-format"] = row_or_first(size_formats, size_format_).json;
         json["add-thousands-separator"] = add_thousands_separator_;
         break;
     case ValueType::Duration:

@@ -4,10 +4,10 @@
 #include "engine/parts/text_run_context.h"
 #include "engine/text/json_access.h"
 #include "engine/text/number_grouping.h"
+#include "platform/decimal_text.h"
 
 #include <algorithm>
 #include <bit>
-#include <stdexcept>
 
 namespace {
 
@@ -15,10 +15,8 @@ using SizeFormat = ItemPartSize::SizeFormat;
 
 const SizeFormatRow& chosen_row(std::uint64_t bytes, SizeFormat format)
 {
-    if (format != SizeFormat::Auto) {
-        const auto* row = find_value(size_formats, format);
-        return row ? *row : size_formats.front();
-    }
+    if (format != SizeFormat::Auto)
+        return row_or_first(size_formats, format);
     const int bits = static_cast<int>(std::bit_width(bytes));
     return size_formats[static_cast<std::size_t>(std::clamp((bits - 1) / 10, 0, 4))];
 }
@@ -29,7 +27,7 @@ std::u16string size_text(std::uint64_t bytes, SizeFormat format, bool add_thousa
 {
     const SizeFormatRow& row = chosen_row(bytes, format);
     const std::uint64_t remainder = bytes & ((std::uint64_t{1} << row.shift) - 1);
-    std::u16string text = decimal_text((bytes >> row.shift) + (remainder > 0 ? 1 : 0));
+    std::u16string text = platform::decimal_text((bytes >> row.shift) + (remainder > 0 ? 1 : 0));
     if (add_thousands_separator)
         text = group_digits(text);
     if (format == SizeFormat::Auto)
@@ -38,20 +36,15 @@ std::u16string size_text(std::uint64_t bytes, SizeFormat format, bool add_thousa
 }
 
 ItemPartSize::ItemPartSize(const boost::json::object& json)
-{
-    const auto* row = find_json(size_formats, json_access::required_string(json, "size-format"));
-    if (!row)
-        throw std::runtime_error("Unknown ItemPartSize::SizeFormat string");
-    size_format_ = row->value;
-    add_thousands_separator_ = json_access::optional_bool(json, "add-thousands-separator", false);
-}
+    : size_format_(known_value(size_formats, json_access::required_string(json, "size-format"),
+                               "Unknown ItemPartSize::SizeFormat string")),
+      add_thousands_separator_(json_access::optional_bool(json, "add-thousands-separator", false))
+{}
 
 boost::json::object ItemPartSize::to_json() const
 {
-    const auto* row = find_value(size_formats, size_format_);
-    if (!row)
-        throw std::runtime_error("Unknown ItemPartSize::SizeFormat value");
-    return {{"size-format", row->json}, {"add-thousands-separator", add_thousands_separator_}};
+    const auto format = known_json(size_formats, size_format_, "Unknown ItemPartSize::SizeFormat value");
+    return {{"size-format", format}, {"add-thousands-separator", add_thousands_separator_}};
 }
 
 void ItemPartSize::append_text(TextRunContext& context, const MVItemBase& item, int) const

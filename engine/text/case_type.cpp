@@ -64,12 +64,10 @@ void MVCaseTypeUtils::convert_in_place(CaseType type, std::u16string& text)
 
 std::string_view MVCaseTypeUtils::to_string(CaseType type)
 {
-    const auto* row = find_value(case_types, type);
-    return row ? row->json : case_types.front().json;
+    return row_or_first(case_types, type).json;
 }
 
 CaseType MVCaseTypeUtils::from_string(std::string_view string)
 {
-    const auto* row = find_json(case_types, string);
-    return row ? row->value : CaseType::Unchanged;
+    return value_or(case_types, string, CaseType::Unchanged);
 }

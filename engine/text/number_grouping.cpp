@@ -3,8 +3,6 @@
 #include "platform/locale_format.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 
 std::u16string group_digits(std::u16string_view digits, std::u16string_view separator)
 {
@@ -21,11 +19,4 @@ std::u16string group_digits(std::u16string_view digits, std::u16string_view sepa
 std::u16string group_digits(std::u16string_view digits)
 {
     return group_digits(digits, platform::thousands_separator());
-}
-
-std::u16string decimal_text(unsigned long long number)
-{
-    std::array<char, 20> digits;
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
-    return {digits.data(), end};
 }

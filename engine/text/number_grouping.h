@@ -9,6 +9,3 @@ std::u16string group_digits(std::u16string_view digits, std::u16string_view sepa
 
 /// The same with the user's thousands separator.
 std::u16string group_digits(std::u16string_view digits);
-
-/// Decimal digits of a number.
-std::u16string decimal_text(unsigned long long number);

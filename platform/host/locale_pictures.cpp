@@ -1,5 +1,6 @@
 #include "platform/locale_format.h"
 
+#include "platform/decimal_text.h"
 #include "platform/host/picture.h"
 #include "platform/host/user_locale.h"
 
@@ -22,7 +23,7 @@ bool has_day_number(std::u16string_view picture)
 std::u16string day_field(const QDate& date, std::size_t count)
 {
     if (count <= 2)
-        return picture_number(static_cast<unsigned>(date.day()), count);
+        return decimal_text(static_cast<unsigned>(date.day()), count);
     const auto form = count == 3 ? QLocale::ShortFormat : QLocale::LongFormat;
     return user_locale().dayName(date.dayOfWeek(), form).toStdU16String();
 }
@@ -30,7 +31,7 @@ std::u16string day_field(const QDate& date, std::size_t count)
 std::u16string month_field(const QDate& date, std::size_t count, bool goes_with_day)
 {
     if (count <= 2)
-        return picture_number(static_cast<unsigned>(date.month()), count);
+        return decimal_text(static_cast<unsigned>(date.month()), count);
     const auto form = count == 3 ? QLocale::ShortFormat : QLocale::LongFormat;
     const QString name = goes_with_day ? user_locale().monthName(date.month(), form)
                                        : user_locale().standaloneMonthName(date.month(), form);
@@ -40,7 +41,7 @@ std::u16string month_field(const QDate& date, std::size_t count, bool goes_with_
 std::u16string year_field(const QDate& date, std::size_t count)
 {
     const auto year = static_cast<unsigned>(date.year());
-    return count <= 2 ? picture_number(year % 100, count) : picture_number(year, 4);
+    return count <= 2 ? decimal_text(year % 100, count) : decimal_text(year, 4);
 }
 
 std::u16string day_half_field(const QTime& time, std::size_t count)
@@ -75,7 +76,7 @@ std::u16string time_by_picture(const BrokenDownTime& time, std::u16string_view p
     if (!moment.isValid())
         return {};
     const auto number = [](int value, std::size_t count) {
-        return picture_number(static_cast<unsigned>(value), std::min<std::size_t>(count, 2));
+        return decimal_text(static_cast<unsigned>(value), std::min<std::size_t>(count, 2));
     };
     return expand_picture(picture, [&](char16_t letter, std::size_t count) -> std::optional<std::u16string> {
         switch (letter) {

@@ -38,12 +38,4 @@ expand_picture(std::u16string_view picture,
     return text;
 }
 
-std::u16string picture_number(unsigned value, std::size_t width)
-{
-    const std::string digits = std::to_string(value);
-    std::u16string text(width > digits.size() ? width - digits.size() : 0, u'0');
-    text.append(digits.begin(), digits.end());
-    return text;
-}
-
 }

@@ -13,7 +13,4 @@ std::u16string
 expand_picture(std::u16string_view picture,
                const std::function<std::optional<std::u16string>(char16_t letter, std::size_t count)>& field);
 
-/// Decimal digits, with leading zeros up to `width`.
-std::u16string picture_number(unsigned value, std::size_t width);
-
 }

@@ -1,5 +1,6 @@
 #include "engine/text/number_grouping.h"
 #include "fuzz_input.h"
+#include "platform/decimal_text.h"
 
 #include <cstring>
 
@@ -29,7 +30,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::u16string sign = input.byte() % 2 != 0 ? u"-" : u"";
     const std::u16string separator = input.text();
     const std::string plain = std::to_string(number);
-    const std::u16string digits = decimal_text(number);
+    const std::u16string digits = platform::decimal_text(number);
     require(digits == std::u16string(plain.begin(), plain.end()), "decimal digits");
     require(group_digits(sign + digits, separator) == grouped_from_behind(sign + digits, separator), "groups");
     return 0;
