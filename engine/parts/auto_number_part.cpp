@@ -9,7 +9,7 @@
 
 ItemPartAutoNumber::ItemPartAutoNumber(const boost::json::object& json)
     : start_(json_access::required_uint64(json, "start")), step_(json_access::required_uint64(json, "step")),
-      add_leading_zeros_(json.contains("nDigits")), n_digits_(json_access::optional_count(json, "nDigits", 0)),
+      add_leading_zeros_(json.contains("nDigits")), n_digits_(json_access::optional_uint32(json, "nDigits", 0)),
       add_thousands_separator_(json_access::optional_bool(json, "addThousandsSeparator", false))
 {}
 
@@ -21,12 +21,14 @@ boost::json::object ItemPartAutoNumber::to_json() const
     return json;
 }
 
+std::u16string ItemPartAutoNumber::formatted(std::uint64_t number) const
+{
+    const std::u16string text =
+        platform::decimal_text(number, add_leading_zeros_ ? std::min(n_digits_, most_digits) : 0);
+    return add_thousands_separator_ ? group_digits(text) : text;
+}
+
 void ItemPartAutoNumber::append_text(TextRunContext& context, const MVItemBase&, int) const
 {
-    const std::int32_t width = add_leading_zeros_ ? std::max(n_digits_, 0) : 0;
-    std::u16string text =
-        platform::decimal_text(context.counter++ * step_ + start_, static_cast<std::size_t>(width));
-    if (add_thousands_separator_)
-        text = group_digits(text);
-    context.output.append(text);
+    context.output.append(formatted(context.counter++ * step_ + start_));
 }

@@ -9,6 +9,9 @@
 class ItemPartAutoNumber final : public ItemPart<ItemPartAutoNumber, ItemPartBase::Type::AutoNumber>
 {
 public:
+    /// A stored file can ask for more digits than fit into memory.
+    static constexpr std::uint32_t most_digits = 10'000;
+
     ItemPartAutoNumber() = default;
     /// Throws std::runtime_error when "start" or "step" is missing. Leading zeros are on when "nDigits" is there.
     explicit ItemPartAutoNumber(const boost::json::object& json);
@@ -25,14 +28,17 @@ public:
 
     void set_add_leading_zeros(bool add) { add_leading_zeros_ = add; }
 
-    /// Digits at the least while leading zeros are on.
-    std::int32_t n_digits() const { return n_digits_; }
+    /// Digits at the least while leading zeros are on, up to `most_digits`.
+    std::uint32_t n_digits() const { return n_digits_; }
 
-    void set_n_digits(std::int32_t digits) { n_digits_ = digits; }
+    void set_n_digits(std::uint32_t digits) { n_digits_ = digits; }
 
     bool add_thousands_separator() const { return add_thousands_separator_; }
 
     void set_add_thousands_separator(bool add) { add_thousands_separator_ = add; }
+
+    /// A number in the part's format.
+    std::u16string formatted(std::uint64_t number) const;
 
     boost::json::object to_json() const override;
     void append_text(TextRunContext& context, const MVItemBase& item, int level) const override;
@@ -43,6 +49,6 @@ private:
     std::uint64_t start_ = 0;
     std::uint64_t step_ = 1;
     bool add_leading_zeros_ = false;
-    std::int32_t n_digits_ = 4;
+    std::uint32_t n_digits_ = 4;
     bool add_thousands_separator_ = false;
 };

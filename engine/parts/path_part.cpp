@@ -15,8 +15,10 @@ namespace {
 ItemPartPath::PathType read_path_type(const boost::json::object& json)
 {
     using enum ItemPartPath::PathType;
-    if (!json.contains("path-type"))
-        return json_access::optional_bool(json, "include-item-name", true) ? FullPath : PathToParentFolder;
+    if (!json.contains("path-type")) {
+        const boost::json::value* includes_name = json.if_contains("include-item-name");
+        return includes_name && *includes_name == false ? PathToParentFolder : FullPath;
+    }
     const std::string type(json_access::required_string(json, "path-type"));
     return known_value(path_types, type, "Unknown ItemPartPath::PathType '" + type + "'");
 }

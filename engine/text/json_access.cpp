@@ -58,13 +58,10 @@ std::int32_t optional_int32(const json::object& object, std::string_view key, st
     return value ? value->to_number<std::int32_t>() : missing;
 }
 
-std::int32_t optional_count(const json::object& object, std::string_view key, std::int32_t missing)
+std::uint32_t optional_uint32(const json::object& object, std::string_view key, std::uint32_t missing)
 {
     const json::value* value = object.if_contains(key);
-    if (!value)
-        return missing;
-    const auto count = value->to_number<std::uint32_t>();
-    return count <= INT32_MAX ? static_cast<std::int32_t>(count) : value->to_number<std::int32_t>();
+    return value ? value->to_number<std::uint32_t>() : missing;
 }
 
 }

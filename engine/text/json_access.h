@@ -21,7 +21,6 @@ std::string_view optional_string(const boost::json::object& json, std::string_vi
 std::u16string optional_text(const boost::json::object& json, std::string_view key);
 bool optional_bool(const boost::json::object& json, std::string_view key, bool missing);
 std::int32_t optional_int32(const boost::json::object& json, std::string_view key, std::int32_t missing);
-/// The same for a number that can't be negative.
-std::int32_t optional_count(const boost::json::object& json, std::string_view key, std::int32_t missing);
+std::uint32_t optional_uint32(const boost::json::object& json, std::string_view key, std::uint32_t missing);
 
 }

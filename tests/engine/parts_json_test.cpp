@@ -39,6 +39,7 @@ TEST(PartsJson, WritesBackWhatItReadInAStableOrder)
              "{'start':18446744073709551615,'step':0,'addThousandsSeparator':true,'nDigits':0,'item-type':"
              "'auto-number'}",
              "{'start':1,'step':2,'addThousandsSeparator':false,'item-type':'auto-number'}",
+             "{'start':1,'step':2,'addThousandsSeparator':false,'nDigits':4294967295,'item-type':'auto-number'}",
              "{'indentText':'\\t','startText':'[','endText':']','item-type':'folder-files'}",
              "{'indentText':'','startText':'','endText':'','item-type':'folder-subfolders'}",
              "{'checksum-type':'xxhash64','uppercase':true,'item-type':'checksum'}",
@@ -53,7 +54,7 @@ TEST(PartsJson, FillsInDefaultsAndOlderForms)
          "[{'path-type':'full-path','limit-num-parents':false,'separator-text':'/','item-type':'path'}]"},
         {"[{'item-type':'path','separator-text':'/','include-item-name':false,'num-parents':7}]",
          "[{'path-type':'path-to-parent-folder','limit-num-parents':false,'separator-text':'/','item-type':'path'}]"},
-        {"[{'item-type':'path','separator-text':'/','include-item-name':true}]",
+        {"[{'item-type':'path','separator-text':'/','include-item-name':'no'}]",
          "[{'path-type':'full-path','limit-num-parents':false,'separator-text':'/','item-type':'path'}]"},
         {"[{'item-type':'name','name-type':'ext-only','case-type':'nonsense'}]",
          "[{'name-type':'ext-only','item-type':'name'}]"},
@@ -98,7 +99,7 @@ TEST(PartsJson, BadInputIsRefusedWithItsReason)
           "[{'item-type':'auto-number','start':-1,'step':1}]", "[{'item-type':'auto-number','start':1.5,'step':1}]",
           "[{'item-type':'auto-number','start':1,'step':18446744073709551616}]",
           "[{'item-type':'auto-number','start':1,'step':1,'nDigits':-1}]",
-          "[{'item-type':'auto-number','start':1,'step':1,'nDigits':2147483648}]",
+          "[{'item-type':'auto-number','start':1,'step':1,'nDigits':4294967296}]",
           "[{'item-type':'path','limit-num-parents':true,'num-parents':2147483648,'separator-text':''}]"})
         EXPECT_EQ(rewritten(stored).find("item-type"), std::string::npos) << stored << " was read";
 }

@@ -188,6 +188,9 @@ TEST(AutoNumberPart, CountsCallsInWrappingArithmetic)
     EXPECT_EQ(next(2), "00,000 00,001 ");
     part.set_n_digits(0);
     EXPECT_EQ(next(), "2 ");
+    part.set_add_thousands_separator(false);
+    part.set_n_digits(std::numeric_limits<std::uint32_t>::max());
+    EXPECT_EQ(next(), std::string(ItemPartAutoNumber::most_digits - 1, '0') + "3 ");
 }
 
 }
