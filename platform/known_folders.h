@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 /// Folders in drive form, without a trailing backslash (the host's root is `C:`). A variable that holds no absolute
 /// path is ignored, as the XDG base directory rules ask.
@@ -11,8 +12,8 @@ namespace platform {
 /// Empty when neither can be told.
 std::optional<std::u16string> user_settings_folder();
 
-/// Settings for all users: the first absolute path of $XDG_CONFIG_DIRS, else /etc/xdg. Never empty here.
-std::optional<std::u16string> machine_settings_folder();
+/// Settings for all users, the most important first: the absolute paths of $XDG_CONFIG_DIRS, else /etc/xdg.
+std::vector<std::u16string> machine_settings_folders();
 
 /// Where the running program's file lies. Throws std::runtime_error when the system doesn't tell.
 std::u16string program_folder();

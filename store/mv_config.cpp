@@ -11,7 +11,8 @@ constexpr std::u16string_view commands_name = u"VKCmds.json";
 
 std::unique_ptr<MVConfig>& global()
 {
-    static std::unique_ptr<MVConfig> config;
+    // Never destroyed: a thread that a disk holds up may still ask while the process ends.
+    static auto& config = *new std::unique_ptr<MVConfig>;
     return config;
 }
 
@@ -54,8 +55,8 @@ std::u16string MVConfigLive::path(FileKind kind) const
     case FileKind::Gallery: return joined(install_folder(), u"VKGallery.json");
     case FileKind::DefaultCommands: break;
     }
-    if (const auto folder = platform::machine_settings_folder()) {
-        std::u16string path = joined(*folder, u"\\Mirvanta Software\\Vellumark\\").append(commands_name);
+    for (const std::u16string& folder : platform::machine_settings_folders()) {
+        std::u16string path = joined(folder, u"\\Mirvanta Software\\Vellumark\\").append(commands_name);
         if (platform::exists(path))
             return path;
     }

@@ -12,7 +12,7 @@ enum class FileKind : std::uint32_t {
     Gallery
 };
 
-/// Where stored files lie. One object for the process, installed at its start. Main thread only.
+/// Where stored files lie. One object for the process, installed at its start; from then on any thread may ask it.
 class MVConfig
 {
 public:
@@ -26,7 +26,7 @@ public:
     /// With a backslash at its end unless it is empty.
     const std::u16string& install_folder() const { return install_folder_; }
 
-    /// Replaces and destroys the object that was installed before; null removes it.
+    /// Replaces and destroys the object that was installed before; null removes it. Before other threads ask.
     static void set_global(std::unique_ptr<MVConfig> config);
     /// Throws std::runtime_error while none is installed.
     static MVConfig& get_global();

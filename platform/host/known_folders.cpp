@@ -26,16 +26,17 @@ std::u16string to_folder(std::string_view host_path)
     return from_host_path(host_path);
 }
 
-/// The first absolute path in a variable's list, whose entries a colon parts.
-std::optional<std::string> first_absolute(const char* list)
+/// The absolute paths in a variable's list, whose entries a colon parts.
+std::vector<std::u16string> absolute_folders(const char* list)
 {
+    std::vector<std::u16string> folders;
     for (std::string_view rest = list ? list : ""; !rest.empty();) {
         const std::string_view entry = rest.substr(0, rest.find(':'));
         if (entry.starts_with('/'))
-            return std::string(entry);
+            folders.push_back(to_folder(entry));
         rest.remove_prefix(std::min(entry.size() + 1, rest.size()));
     }
-    return {};
+    return folders;
 }
 
 /// A variable's value when it is an absolute path.
@@ -67,9 +68,12 @@ std::optional<std::u16string> user_settings_folder()
     return home ? std::optional(to_folder(*home) + u"\\.config") : std::nullopt;
 }
 
-std::optional<std::u16string> machine_settings_folder()
+std::vector<std::u16string> machine_settings_folders()
 {
-    return to_folder(first_absolute(std::getenv("XDG_CONFIG_DIRS")).value_or("/etc/xdg"));
+    auto folders = absolute_folders(std::getenv("XDG_CONFIG_DIRS"));
+    if (folders.empty())
+        folders.push_back(to_folder("/etc/xdg"));
+    return folders;
 }
 
 std::string host_program_folder()

@@ -46,13 +46,16 @@ TEST(KnownFolders, UserSettings)
 
 TEST(KnownFolders, MachineSettings)
 {
-    const std::vector<std::pair<const char*, std::u16string>> rows{
-        {nullptr, u"C:\\etc\\xdg"}, {"", u"C:\\etc\\xdg"},     {"a:b", u"C:\\etc\\xdg"},
-        {"/a:/b", u"C:\\a"},        {"rel::/b/:/c", u"C:\\b"},
+    const std::vector<std::pair<const char*, std::vector<std::u16string>>> rows{
+        {nullptr, {u"C:\\etc\\xdg"}},
+        {"", {u"C:\\etc\\xdg"}},
+        {"a:b", {u"C:\\etc\\xdg"}},
+        {"/a:/b", {u"C:\\a", u"C:\\b"}},
+        {"rel::/b/:/c", {u"C:\\b", u"C:\\c"}},
     };
     for (const auto& [value, expected] : rows) {
         put("XDG_CONFIG_DIRS", value);
-        EXPECT_EQ(platform::machine_settings_folder(), expected);
+        EXPECT_EQ(platform::machine_settings_folders(), expected);
     }
 }
 

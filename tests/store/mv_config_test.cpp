@@ -29,10 +29,14 @@ TEST_F(MVConfigTest, FilesByKind)
 
 TEST_F(MVConfigTest, MachineWideDefaultsAreLookedForAtEachCall)
 {
+    const ScopedVariable folders("XDG_CONFIG_DIRS", folder.host("first") + ":" + folder.host("machine"));
     const auto defaults = [] { return MVConfig::get_global().path(FileKind::DefaultCommands); };
     EXPECT_EQ(defaults(), folder.path(shipped_file));
     folder.write(machine_file);
     EXPECT_EQ(defaults(), folder.path(machine_file));
+    const std::u16string first = folder.write("first/Mirvanta Software/Vellumark/VKCmds.json");
+    EXPECT_EQ(defaults(), first);
+    std::filesystem::remove_all(folder.host("first"));
     std::filesystem::remove(folder.host(machine_file));
     EXPECT_EQ(defaults(), folder.path(shipped_file));
 }
