@@ -55,15 +55,12 @@ std::optional<std::string> read_file(std::u16string_view path, std::string& erro
 /// The same of whatever a user names on a command line, pipes included: waits until the writer closes its end.
 std::optional<std::string> read_file_or_pipe(std::u16string_view path, std::string& error);
 
-/// Writes `content` to `path`, truncating what was there, and brings it to the disk before it returns. False on any
-/// failure; the file may then be there in part.
-bool write_file(std::u16string_view path, std::string_view content);
-
 /// What `replace_content` did. Unless it is done the old file is as it was and no temporary file is left.
 enum class Replacement : std::uint32_t {
     Done,
-    NotWritten, ///< the temporary file could not be opened, locked or written
-    NotReplaced ///< it could not take the place of what is at the path
+    NotWritten,  ///< the temporary file could not be opened, locked or written
+    NotReplaced, ///< it could not take the place of what is at the path
+    Declined     ///< the caller didn't want it once it had seen what is there
 };
 
 /// Makes `content` the file at `path` in one step: at any moment, also after a crash, that is the old file or the new
@@ -76,10 +73,14 @@ enum class Replacement : std::uint32_t {
 /// - At the temporary name a file left by an interrupted call is used again, a link or the like is removed, and a
 ///   folder makes the call fail.
 /// - The temporary file is locked (flock) meanwhile. A second call waits for it up to a second, then gives up.
-Replacement replace_content(std::u16string_view path, std::string_view content);
+/// - `confirm` is called with that lock held, when all that is left is the new name: whoever saves in this way too
+///   changes nothing from there on. With false the old file stays. What it throws leaves this operation, as if false.
+Replacement replace_content(std::u16string_view path, std::string_view content,
+                            const std::function<bool()>& confirm = {});
 
 /// Gives a file, or what a link to one leads to, a second name before `replace_content` takes the first one: a hard
-/// link, or a copy where there can be none. Nothing may be called `other` yet. False when neither could be made.
+/// link, or a copy where there can be none, which nobody may read who might not read the file. False when neither
+/// could be made, as when something is called `other` already, be it a link that leads nowhere.
 bool keep_as(std::u16string_view path, std::u16string_view other);
 
 /// Removes a file or a link, as well as that can be done.

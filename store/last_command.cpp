@@ -30,5 +30,5 @@ void write_last_command(const VellumarkCommand& command)
     const std::u16string path = checked_path();
     const std::string content = boost::json::serialize(command.to_json());
     create_parent_directories(path);
-    static_cast<void>(platform::write_file(path, content));
+    static_cast<void>(platform::replace_content(path, content));
 }

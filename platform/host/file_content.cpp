@@ -1,7 +1,6 @@
 #include "platform/files.h"
 
 #include "platform/host/host_location.h"
-#include "platform/host/write_all.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -84,14 +83,6 @@ std::optional<std::string> read_file(std::u16string_view path, std::string& erro
 std::optional<std::string> read_file_or_pipe(std::u16string_view path, std::string& error)
 {
     return read_opened(HostLocation(path).open(O_RDONLY | O_NOCTTY), error);
-}
-
-bool write_file(std::u16string_view path, std::string_view content)
-{
-    // O_NONBLOCK: a fifo of that name must fail instead of waiting for a reader.
-    Descriptor descriptor = HostLocation(path).open(O_WRONLY | O_CREAT | O_TRUNC | O_NONBLOCK | O_NOCTTY, 0666);
-    const bool is_written = descriptor && write_all(descriptor.get(), content) && fsync(descriptor.get()) == 0;
-    return descriptor && close(descriptor.release()) == 0 && is_written;
 }
 
 }

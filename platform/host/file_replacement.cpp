@@ -50,7 +50,7 @@ void sync_folder(const std::string& host_path)
 
 }
 
-Replacement replace_content(std::u16string_view path, std::string_view content)
+Replacement replace_content(std::u16string_view path, std::string_view content, const std::function<bool()>& confirm)
 {
     const std::string target_path = behind_links(to_host_path(path));
     if (target_path.empty())
@@ -62,7 +62,11 @@ Replacement replace_content(std::u16string_view path, std::string_view content)
     TemporaryFile temporary(target_path);
     if (!temporary.open(old ? old->st_mode : 0666) || !temporary.write(content, old))
         return Replacement::NotWritten;
-    if ((exists && !may_replace(target, info)) || !temporary.move_to(target))
+    if (exists && !may_replace(target, info))
+        return Replacement::NotReplaced;
+    if (confirm && !confirm())
+        return Replacement::Declined;
+    if (!temporary.move_to(target))
         return Replacement::NotReplaced;
     sync_folder(parent_of(target_path));
     return Replacement::Done;
