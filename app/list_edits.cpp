@@ -1,6 +1,7 @@
 #include "app/list_edits.h"
 
 #include "app/duplicate_name.h"
+#include "store/commands_file.h"
 #include "ui/app_services.h"
 #include "ui/editor/command_controller_base.h"
 #include "ui/lists/command_lists.h"

@@ -1,5 +1,7 @@
 #include "store/exchange_text.h"
 
+#include "store/commands_json.h"
+
 #include <algorithm>
 
 namespace json = boost::json;
@@ -24,7 +26,7 @@ namespace exchange_text {
 
 std::string from_commands(const CommandList& commands)
 {
-    return json::serialize(json::object{{commands_file::menu_key, commands_file::menu_to_json(commands)}});
+    return json::serialize(json::object{{commands_json::menu_key, commands_json::menu_to_json(commands)}});
 }
 
 std::optional<CommandList> to_commands(std::string_view text)
@@ -35,7 +37,7 @@ std::optional<CommandList> to_commands(std::string_view text)
     if (error || !object)
         return {};
     try {
-        return commands_file::menu_from_json(*object);
+        return commands_json::menu_from_json(*object);
     } catch (const std::exception&) {
         // What the user has on the clipboard is mostly something else: no reason is asked for.
         return {};

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/commands_file.h"
+#include "store/stored_commands.h"
 
 #include <cstdint>
 #include <optional>

@@ -26,20 +26,30 @@ JsonFileReaderException::JsonFileReaderException(std::u16string path, JsonFileSt
         message_ += " (" + detail_ + ")";
 }
 
-boost::json::value read_json_file(std::u16string_view path, JsonSource source)
+std::string read_text_file(std::u16string_view path, JsonSource source)
 {
     std::string reason;
-    const auto content = source == JsonSource::StoredFile ? platform::read_file(path, reason)
-                                                          : platform::read_file_or_pipe(path, reason);
+    auto content = source == JsonSource::StoredFile ? platform::read_file(path, reason)
+                                                    : platform::read_file_or_pipe(path, reason);
     if (!content)
         throw JsonFileReaderException(std::u16string(path), JsonFileStatus::ReadError, reason);
+    return std::move(*content);
+}
+
+boost::json::value parse_json_file(std::u16string_view path, std::string_view text)
+{
     boost::json::error_code error;
     // Given back as a whole: a file of many small values would otherwise take long to take apart.
     boost::json::value value =
-        boost::json::parse(*content, error, boost::json::make_shared_resource<boost::json::monotonic_resource>());
+        boost::json::parse(text, error, boost::json::make_shared_resource<boost::json::monotonic_resource>());
     if (error)
         throw JsonFileReaderException(std::u16string(path), JsonFileStatus::InvalidJson, error.message());
     return value;
+}
+
+boost::json::value read_json_file(std::u16string_view path, JsonSource source)
+{
+    return parse_json_file(path, read_text_file(path, source));
 }
 
 void create_parent_directories(std::u16string_view path)

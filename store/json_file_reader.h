@@ -38,8 +38,14 @@ enum class JsonSource : std::uint32_t {
     AnyFile     ///< whatever the user named, pipes included
 };
 
-/// The JSON value that a file holds. Throws JsonFileReaderException with status ReadError and the reason, or
-/// InvalidJson and the parser's.
+/// A file's text. Throws JsonFileReaderException with status ReadError and the reason.
+std::string read_text_file(std::u16string_view path, JsonSource source = JsonSource::StoredFile);
+
+/// The JSON value that a file's text holds. Throws JsonFileReaderException with status InvalidJson and the parser's
+/// reason.
+boost::json::value parse_json_file(std::u16string_view path, std::string_view text);
+
+/// Both at once.
 boost::json::value read_json_file(std::u16string_view path, JsonSource source = JsonSource::StoredFile);
 
 /// Creates the folders that the file at `path` is to lie in. Throws boost::filesystem::filesystem_error with the

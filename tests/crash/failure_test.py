@@ -87,6 +87,23 @@ class Failure(SaveTest):
         self.killed_at(*next(call for call in self.calls_of_a_save() if call[0] == "write"))
         self.assertEqual(self.permissions(self.temporary), 0o600)
 
+    def test_kept_copies_are_as_private_as_the_file(self):
+        if os.geteuid() == 0:
+            os.chown(self.file, NOBODY, NOBODY)
+        self.write(b"kept", self.root + "/elsewhere")
+        os.symlink("nowhere", self.file + ".broken")
+        os.symlink(self.root + "/elsewhere", self.file + ".broken2")
+        for number, bits, without_links in [(3, 0o640, False), (4, 0o640, True), (5, 0o604, True)]:
+            self.write(self.old)
+            os.chmod(self.file, bits)
+            # A copy where there can be no second name.
+            under = self.injected("linkat:error=EPERM") if without_links else ()
+            self.assertEqual(self.run_tool("keep", "new", under=under, umask=0), (0, b"", b""))
+            copy = f"{self.file}.broken{number}"
+            self.assertEqual((self.content(copy), self.permissions(copy)), (self.old, bits))
+        self.assertEqual(self.content(self.root + "/elsewhere"), b"kept")
+        self.assertFalse(os.path.exists(self.folder + "/nowhere"))
+
     def test_entries_in_the_way(self):
         os.remove(self.file)
         for make in (os.mkdir, os.mkfifo, lambda path: os.symlink("/dev/null", path)):

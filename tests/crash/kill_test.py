@@ -56,5 +56,10 @@ class Kill(SaveTest):
         self.assertTrue(os.path.islink(self.file))
 
 
+class KillLastCommand(Kill):
+    actions = ("save-last", "load-last")
+    name = "LastCmd.json"
+
+
 if __name__ == "__main__":
     unittest.main()

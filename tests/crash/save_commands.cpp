@@ -1,7 +1,10 @@
 /// Saves a commands file, or loads it and tells what it holds. A test kills it in the middle.
 ///
 ///     save-commands save NAME     one command of that name, and presets that make the file large
+///     save-commands keep NAME     the same; the old file is kept
 ///     save-commands load          prints the names of the menu's commands
+///     save-commands save-last NAME, save-commands load-last
+///                                 the same with one command as the last one run
 ///
 /// The save proper stands between two calls of getppid, which a tracer recognises. An exception's text goes to
 /// standard error, with exit status 1.
@@ -9,6 +12,7 @@
 #include "engine/commands/vellumark_command.h"
 #include "engine/text/utf.h"
 #include "store/commands_file.h"
+#include "store/last_command.h"
 #include "store/mv_config.h"
 
 #include <unistd.h>
@@ -19,7 +23,7 @@
 
 namespace {
 
-void save(std::string_view name)
+void save(std::string_view name, OldFile old)
 {
     std::vector<ExtensionsPreset> presets(1000);
     for (ExtensionsPreset& preset : presets) {
@@ -28,13 +32,28 @@ void save(std::string_view name)
     }
     const CommandList menu{std::make_shared<VellumarkCommand>(to_utf16(name))};
     getppid();
-    commands_file::save(menu, {}, presets);
+    commands_file::save(menu, {}, presets, old);
     getppid();
 }
 
 void load()
 {
     for (const auto& command : commands_file::load().menu)
+        std::puts(to_utf8(command->name()).c_str());
+}
+
+void save_last(std::string_view name)
+{
+    VellumarkCommand command(to_utf16(name));
+    command.set_separator(std::u16string(100'000, u'x'));
+    getppid();
+    write_last_command(command);
+    getppid();
+}
+
+void load_last()
+{
+    if (const auto command = read_last_command())
         std::puts(to_utf8(command->name()).c_str());
 }
 
@@ -45,9 +64,13 @@ int main(int argc, char* argv[])
     try {
         MVConfigLive::install(u"C:\\nowhere");
         const std::string_view action = argc > 1 ? argv[1] : "";
-        if (action == "save" && argc == 3)
-            save(argv[2]);
-        else if (action == "load" && argc == 2)
+        if (action == "save-last" && argc == 3)
+            save_last(argv[2]);
+        else if (argc == 3)
+            save(argv[2], action == "keep" ? OldFile::Kept : OldFile::Replaced);
+        else if (action == "load-last")
+            load_last();
+        else if (action == "load")
             load();
         else
             return 2;

@@ -16,12 +16,15 @@ NOT_REPLACED = b"Failed to replace commands file.\n"
 
 
 class SaveTest(unittest.TestCase):
+    actions = ("save", "load")  # of the file that is tested
+    name = "VKCmds.json"
+
     def setUp(self):
         self.root = os.path.realpath(tempfile.mkdtemp(prefix="vellumark-"))
         self.addCleanup(shutil.rmtree, self.root)
         self.folder = self.root + "/Mirvanta/Vellumark"
         os.makedirs(self.folder)
-        self.file = self.folder + "/VKCmds.json"
+        self.file = self.folder + "/" + self.name
         self.temporary = self.file + "+"
         self.environment = os.environ | {"XDG_CONFIG_HOME": self.root}
 
@@ -41,7 +44,7 @@ class SaveTest(unittest.TestCase):
 
     def save(self, name="new", **options):
         """Exit status and standard error."""
-        return self.run_tool("save", name, **options)[::2]
+        return self.run_tool(self.actions[0], name, **options)[::2]
 
     def saved_as(self, name, **options):
         """The bytes that a save of that name makes."""
@@ -61,12 +64,12 @@ class SaveTest(unittest.TestCase):
             file.write(content)
 
     def loaded(self):
-        """What the program makes of the stored file: the menu's one name, or None when there is no file."""
-        status, out, errors = self.run_tool("load")
+        """What the program makes of the stored file: the one command's name, or None when there is no file."""
+        status, out, errors = self.run_tool(self.actions[1])
         if b"Missing File" in errors:
             return None
         self.assertEqual((status, errors), (0, b""))
-        return out.decode().strip()
+        return out.decode().strip() or None
 
     def injected(self, *injections):
         """A tracer that changes the given system calls of the main thread."""

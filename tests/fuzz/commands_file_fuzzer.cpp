@@ -1,5 +1,5 @@
 #include "fuzz_input.h"
-#include "store/commands_file.h"
+#include "store/commands_json.h"
 #include "store/mv_config.h"
 
 extern "C" int LLVMFuzzerInitialize(int*, char***)
@@ -14,12 +14,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto value = FuzzInput(data, size).json();
     if (!value || !value->is_object())
         return 0;
-    const auto first = accepted([&] { return commands_file::from_json(value->get_object()); });
+    const auto first = accepted([&] { return commands_json::from_json(value->get_object()); });
     if (!first)
         return 0;
-    const auto written = commands_file::to_json(first->menu, first->library, first->presets);
-    const StoredCommands second = commands_file::from_json(written);
-    require(commands_file::to_json(second.menu, second.library, second.presets) == written, "written the same");
+    const auto written = commands_json::to_json(*first);
+    const StoredCommands second = commands_json::from_json(written);
+    require(commands_json::to_json(second) == written, "written the same");
     require(second.presets == first->presets, "same presets");
     for (const auto& command : first->menu)
         require(command->clone()->equals(*command), "a copy is equal");

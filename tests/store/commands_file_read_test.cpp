@@ -151,10 +151,24 @@ TEST_F(CommandsFileRead, LoadFallsBackToTheDefaultFile)
     EXPECT_EQ(load(), "app\\VKCmds.json: Missing File");
     folder.write(shipped_file, file(command_json("shipped"), command_json("more")));
     EXPECT_EQ(load(), "menu[shipped] library[more hidden] presets[]");
-    folder.write(user_file, file("", command_json("own")));
-    EXPECT_EQ(load(), "menu[shipped] library[more hidden] presets[]");
-    folder.write(user_file, file(command_json("own"), ""));
-    EXPECT_EQ(load(), "menu[own] library[] presets[]");
+
+    struct Row {
+        std::string menu, library, expected;
+        OldFile old;
+    };
+
+    const Row rows[] = {
+        {"", "", "menu[shipped] library[more hidden] presets[]", OldFile::Replaced},
+        {"", command_json("own"), "menu[shipped] library[more hidden] presets[]", OldFile::Kept},
+        {command_json("own"), "", "menu[own] library[] presets[]", OldFile::Replaced},
+    };
+    for (const Row& row : rows) {
+        const std::string text = file(row.menu, row.library);
+        folder.write(user_file, text);
+        EXPECT_EQ(load(), row.expected);
+        EXPECT_EQ(commands_file::load_user_file().old, row.old);
+        EXPECT_EQ(commands_file::load_user_file().text, text);
+    }
     EXPECT_EQ(flat(commands_file::load_defaults()), "menu[shipped] library[more hidden] presets[]");
     folder.write(user_file, "{}");
     EXPECT_EQ(load(), "JSON value missing: menuCommands");

@@ -116,9 +116,7 @@ TEST_F(CommandsFileSave, WhatCantBeReplaced)
 
 TEST_F(CommandsFileSave, KeepsTheOldFileWhenAsked)
 {
-    const auto save_error = [&] {
-        return error_of([] { commands_file::save({}, {}, {}, commands_file::OldFile::Kept); });
-    };
+    const auto save_error = [&] { return error_of([] { commands_file::save({}, {}, {}, OldFile::Kept); }); };
     const std::string kept = std::string(user_file) + ".broken";
     EXPECT_EQ(save_error(), "no error");
     EXPECT_FALSE(exists(kept)) << "there was none";

@@ -1,4 +1,5 @@
 #include "engine/commands/vellumark_command.h"
+#include "store/commands_json.h"
 #include "store/exchange_text.h"
 #include "store_test.h"
 
@@ -68,7 +69,7 @@ TEST(ExchangeText, IsACommandsFileWithTheMenuAlone)
                                                  R"(,{"commandType":"Configure","name":"C"})"));
     ASSERT_EQ(flat_names(commands), "[\u00C4, C]");
     const std::string text = exchange_text::from_commands(*commands);
-    EXPECT_EQ(flat(commands_file::from_json(
+    EXPECT_EQ(flat(commands_json::from_json(
                   boost::json::parse(text.substr(0, text.size() - 1) + R"(,"extensionsPresets":[]})").as_object())),
               "menu[\u00C4, C] library[] presets[]");
     EXPECT_EQ(boost::json::parse(text).as_object().size(), 1u);

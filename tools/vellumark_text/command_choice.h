@@ -1,7 +1,7 @@
 #pragma once
 
 #include "engine/commands/vellumark_command.h"
-#include "store/commands_file.h"
+#include "store/stored_commands.h"
 #include "vellumark_text/options.h"
 
 #include <memory>

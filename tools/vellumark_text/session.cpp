@@ -6,6 +6,7 @@
 #include "engine/text/utf.h"
 #include "platform/known_folders.h"
 #include "platform/utf.h"
+#include "store/commands_file.h"
 #include "store/json_file_reader.h"
 #include "store/mv_config.h"
 #include "vellumark_text/command_choice.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/commands_file.h"
+#include "store/stored_commands.h"
 #include "ui/lists/show_marks.h"
 
 #include <QAbstractTableModel>
@@ -29,6 +29,10 @@ public:
     void set_commands(CommandList commands);
     /// A list as it was loaded: its commands are the saved ones, and what is edited are clones that know them.
     void set_saved_commands(CommandList commands);
+
+    /// The saved form alone: the list stays as it is.
+    void set_saved_form(CommandList commands) { saved_commands_ = std::move(commands); }
+
     /// The list is saved as it is.
     void mark_saved();
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/commands_file.h"
+#include "store/stored_commands.h"
 
 /// What one step of undo gives back to a list. Commands are shared between states: a change inside a command is no
 /// part of them.
