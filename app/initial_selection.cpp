@@ -2,24 +2,12 @@
 
 #include "app/initial_command.h"
 #include "app/settings_keys.h"
-#include "store/last_command.h"
+#include "engine/commands/vellumark_command.h"
 #include "ui/lists/command_lists.h"
 
-#include <QDebug>
 #include <QSettings>
 
 namespace {
-
-/// Nothing about the file may stop the start: at worst another command is current.
-std::shared_ptr<VellumarkCommand> last_command()
-{
-    try {
-        return read_last_command();
-    } catch (const std::exception& error) {
-        qDebug() << "The last command can't be read:" << error.what();
-        return nullptr;
-    }
-}
 
 void restore_row(CommandsListController& list, QLatin1StringView key)
 {
@@ -37,10 +25,9 @@ void append_left_over(CommandsListController& menu, const std::shared_ptr<Vellum
 
 }
 
-void select_initial_command(CommandLists& lists)
+void select_initial_command(const std::shared_ptr<VellumarkCommand>& last, CommandLists& lists)
 {
     CommandsListController &menu = lists.menu(), &library = lists.library();
-    const auto last = last_command();
     const InitialCommand initial = initial_command(last.get(), menu, library);
     if (initial.is_new)
         append_left_over(menu, last);

@@ -58,7 +58,21 @@ bool MessageBoxes::save_without_configure_command(QWidget* parent)
     return box.clickedButton() == save;
 }
 
-MessageBoxes::SaveChoice MessageBoxes::ask_about_changes(QWidget* parent)
+MessageBoxes::OtherChanges MessageBoxes::ask_about_other_changes(QWidget* parent)
+{
+    QMessageBox box(QMessageBox::Question, QCoreApplication::applicationName(),
+                    tr("Stored commands were changed by another program since they were loaded."),
+                    QMessageBox::NoButton, parent);
+    const QPushButton* merge = box.addButton(tr("Merge"), QMessageBox::AcceptRole);
+    const QPushButton* overwrite = box.addButton(tr("Overwrite"), QMessageBox::DestructiveRole);
+    box.addButton(QMessageBox::Cancel);
+    box.exec();
+    if (box.clickedButton() == merge)
+        return OtherChanges::Merge;
+    return box.clickedButton() == overwrite ? OtherChanges::Overwrite : OtherChanges::Cancel;
+}
+
+MessageBoxes::SaveChoice MessageBoxes::ask_about_changes(QWidget* parent, QPointer<QDialog>& open)
 {
     const QString save_word = tr("Save");
     const QString dont_save_word = tr("Don't Save");
@@ -71,6 +85,7 @@ MessageBoxes::SaveChoice MessageBoxes::ask_about_changes(QWidget* parent)
     const QPushButton* save = box.addButton(save_word, QMessageBox::AcceptRole);
     const QPushButton* dont_save = box.addButton(dont_save_word, QMessageBox::RejectRole);
     box.addButton(QMessageBox::Cancel);
+    open = &box;
     box.exec();
     if (box.clickedButton() == save)
         return SaveChoice::Save;

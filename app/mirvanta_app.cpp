@@ -23,6 +23,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <utility>
 
 namespace {
 
@@ -40,13 +41,12 @@ void log_failures(const auto& step)
 
 }
 
-MirvantaApp::MirvantaApp(const MakeEditors& make_editors)
+MirvantaApp::MirvantaApp(const MakeEditors& make_editors, StoredFiles files)
     : QDialog(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint),
-      selected_items_(std::make_shared<MVItemsSet>()), lists_(*this, steps_), stored_(lists_),
-      stored_flow_(*this, lists_, stored_), tool_row_(new ToolRow(steps_.stack(), this))
+      selected_items_(std::make_shared<MVItemsSet>()), lists_(*this, steps_), stored_(lists_, presets_),
+      stored_flow_(*this, lists_, stored_, std::move(files)), tool_row_(new ToolRow(steps_.stack(), this))
 {
     setWindowTitle(QCoreApplication::applicationName());
-    const bool loaded = stored_flow_.load();
     connect(&source_, &SelectionSource::arrived, this, &MirvantaApp::on_context_menu_selected);
     connect(&source_, &SelectionSource::ready, this, &MirvantaApp::take_selection);
     source_.start();
@@ -57,19 +57,19 @@ MirvantaApp::MirvantaApp(const MakeEditors& make_editors)
     refresh_save_and_delete();
     if (make_editors)
         editors_.add(make_editors(*this), *ui_);
-    if (loaded)
-        select_initial_command(lists_);
-    else
-        lists_.activate(menu_list());
-    // Nobody has told of either where the lists are empty; the tab is not always the one of the last session.
+    lists_.activate(menu_list());
+    // Nobody has told of either where the lists are empty; the tab may be the one of the last session.
     show_active_list();
     current_command_changed();
+    stored_flow_.finish_loading();
 }
 
 MirvantaApp::~MirvantaApp() = default;
 
 void MirvantaApp::connect_all()
 {
+    connect(&stored_flow_, &StoredFlow::loaded, this, &MirvantaApp::select_loaded);
+    connect(&presets_, &Presets::changed, this, &MirvantaApp::refresh_save_and_delete);
     connect(&editors_, &CommandEditors::current_command_changed, this, &MirvantaApp::current_command_index_changed);
     connect(tool_row_, &ToolRow::about_requested, this, &MirvantaApp::on_about);
     connect(ui_.get(), &MainAppUi::commands_list_changed, this, &MirvantaApp::refresh_save_and_delete);
@@ -132,6 +132,7 @@ void MirvantaApp::on_context_menu_selected(int command_index, const QStringList&
     raise();
     activateWindow();
     ok_holds_ = false;
+    stored_flow_.call_off();
     log_failures([&] {
         source_.take(command_index, paths);
         if (editors_.current())
@@ -147,7 +148,9 @@ void MirvantaApp::take_selection(int command_index, const QStringList& paths)
             exemplar_.set_item(selected_items_->items().front());
         if (command_index >= 0) {
             lists_.activate(menu_list());
-            menu_list().select(command_index);
+            awaited_row_ = command_index;
+            if (stored_flow_.has_loaded())
+                menu_list().select(std::exchange(awaited_row_, -1));
         }
     });
     // However much of it was taken: texts were given up for it, and whoever waits for new ones waits for this.
@@ -196,6 +199,17 @@ void MirvantaApp::refresh_save_and_delete()
 {
     ui_->show_save_button(stored_.has_unsaved_changes());
     ui_->enable_delete_button(!active_list().is_empty());
+}
+
+void MirvantaApp::select_loaded(bool usable, const std::shared_ptr<VellumarkCommand>& last)
+{
+    if (usable)
+        select_initial_command(last, lists_);
+    if (!usable || awaited_row_ >= 0)
+        lists_.activate(menu_list());
+    current_command_changed();
+    refresh_save_and_delete();
+    menu_list().select(std::exchange(awaited_row_, -1));
 }
 
 void MirvantaApp::duplicate_command()

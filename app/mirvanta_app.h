@@ -2,10 +2,12 @@
 
 #include "app/command_editors.h"
 #include "app/selection_source.h"
+#include "app/stored_files.h"
 #include "app/stored_flow.h"
 #include "app/stored_state.h"
 #include "ui/app_services.h"
 #include "ui/lists/command_lists.h"
+#include "ui/presets/presets.h"
 #include "ui/preview/exemplar_item_provider.h"
 #include "ui/selection_services.h"
 
@@ -23,9 +25,10 @@ class MirvantaApp final : public QDialog, public AppServices, public SelectionSe
     Q_OBJECT
 
 public:
-    /// Loads the stored commands and starts to listen for selections; that a commands file can't be used is told to
-    /// the user once events are processed. Without editors no command has a page.
-    explicit MirvantaApp(const MakeEditors& make_editors = {});
+    /// Loads the stored commands, which come later when a disk takes its time, and starts to listen for selections;
+    /// that a commands file can't be used is told to the user once events are processed. Without editors no command
+    /// has a page.
+    explicit MirvantaApp(const MakeEditors& make_editors = {}, StoredFiles files = {});
     ~MirvantaApp() override;
 
     CommandsListController& menu_list() { return lists_.menu(); }
@@ -41,6 +44,8 @@ public:
     CommandLists& lists() override { return lists_; }
 
     UndoSteps& steps() override { return steps_; }
+
+    Presets& presets() override { return presets_; }
 
     ExemplarItemProvider& exemplar() override { return exemplar_; }
 
@@ -93,13 +98,16 @@ private:
     void show_active_list();
     void step_ended(const WrittenCommands& written);
     void refresh_save_and_delete();
+    void select_loaded(bool usable, const std::shared_ptr<VellumarkCommand>& last);
     void take_selection(int command_index, const QStringList& paths);
 
     std::shared_ptr<MVItemsSet> selected_items_;
     UndoSteps steps_;
     CommandLists lists_;
+    Presets presets_;
     StoredState stored_;
     StoredFlow stored_flow_;
+    int awaited_row_ = -1; ///< of the menu list: asked for with a selection before the list was loaded
     ExemplarItemProvider exemplar_;
     SelectionSource source_;
     CommandEditors editors_;

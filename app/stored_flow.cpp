@@ -1,42 +1,181 @@
 #include "app/stored_flow.h"
 
+#include "app/busy_dlg.h"
 #include "app/list_edits.h"
 #include "app/message_boxes.h"
 #include "app/stored_state.h"
+#include "platform/paths.h"
+#include "store/mv_config.h"
 #include "ui/lists/command_lists.h"
 
-#include <QTimer>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QDebug>
+#include <QEvent>
+#include <QFile>
+#include <QFileInfo>
+#include <QScopedValueRollback>
 #include <QWidget>
 
+#include <atomic>
+#include <chrono>
 #include <stdexcept>
+#include <utility>
 
-bool StoredFlow::load()
+namespace {
+
+/// Between a change of the files and the look at them: programs write in several steps.
+constexpr std::chrono::milliseconds time_to_rest{100};
+
+/// Whether what is typed there would be lost with its row.
+bool is_edit_of_row(const QWidget* focus)
 {
+    const QWidget* viewport = focus ? focus->parentWidget() : nullptr;
+    return viewport && qobject_cast<const QAbstractItemView*>(viewport->parentWidget());
+}
+
+}
+
+StoredFlow::StoredFlow(QWidget& window, CommandLists& lists, StoredState& stored, StoredFiles files)
+    : window_(window), lists_(lists), stored_(stored), files_(std::move(files)),
+      start_([files = files_] { return read_start(files); })
+{
+    look_timer_.setSingleShot(true);
+    look_timer_.setInterval(time_to_rest);
+    const auto look_soon = [this] { look_timer_.start(); };
+    connect(&watcher_, &QFileSystemWatcher::directoryChanged, this, look_soon);
+    connect(&watcher_, &QFileSystemWatcher::fileChanged, this, look_soon);
+    connect(&look_timer_, &QTimer::timeout, this, &StoredFlow::look);
+    window_.installEventFilter(this);
+}
+
+StoredFlow::Start StoredFlow::read_start(const StoredFiles& files)
+{
+    Start start{.commands = files.load(), .last = nullptr};
     try {
-        stored_.load();
-        return true;
+        start.last = files.read_last();
+    } catch (const std::exception& error) {
+        // Nothing about this file may stop the start: at worst another command is current.
+        qDebug() << "The last command can't be read:" << error.what();
+    }
+    return start;
+}
+
+void StoredFlow::finish_loading()
+{
+    if (start_.job().wait(files_.patience_at_start)) {
+        take_start();
+        return;
+    }
+    connect(&start_.job(), &BackgroundJob::done, this, &StoredFlow::take_start);
+    // With the window.
+    QTimer::singleShot(0, this, &StoredFlow::wait_for_start);
+}
+
+void StoredFlow::wait_for_start()
+{
+    if (has_loaded_)
+        return;
+    auto* dialog = new BusyDlg(tr("Loading..."), &window_);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(this, &StoredFlow::loaded, dialog, &QDialog::accept);
+    connect(dialog, &QDialog::rejected, this, [this, dialog] {
+        disconnect(this, nullptr, dialog, nullptr);
+        has_loaded_ = true;
+        emit loaded(false, nullptr);
+    });
+    dialog->open();
+}
+
+void StoredFlow::take_start()
+{
+    const bool is_late = std::exchange(has_loaded_, true);
+    try {
+        Start start = start_.take();
+        watch();
+        if (is_late) {
+            take_over(start.commands);
+            return;
+        }
+        stored_.fill(std::move(start.commands));
+        emit loaded(true, std::move(start.last));
     } catch (const std::exception& error) {
         // With the window, which has to listen for selections however long the box stays.
         QTimer::singleShot(0, &window_, [&window = window_, failure = std::runtime_error(error.what())] {
             MessageBoxes::show_failure(&window, MessageBoxes::tr("Failed to load stored commands"), failure);
         });
-        return false;
+        if (!is_late)
+            emit loaded(false, nullptr);
     }
 }
 
 bool StoredFlow::save()
+{
+    const QScopedValueRollback<bool> busy(is_busy_, true);
+    while (may_save()) {
+        Written written = write(false);
+        if (written == Written::FoundOther)
+            switch (MessageBoxes::ask_about_other_changes(&window_)) {
+            case MessageBoxes::OtherChanges::Merge:
+                if (!merge())
+                    return false;
+                continue;
+            case MessageBoxes::OtherChanges::Overwrite: written = write(true); break;
+            case MessageBoxes::OtherChanges::Cancel: break;
+            }
+        return written == Written::Yes;
+    }
+    return false;
+}
+
+bool StoredFlow::may_save()
 {
     const CommandsListController& menu = lists_.menu();
     if (menu.is_empty()) {
         MessageBoxes::show_menu_is_empty(&window_);
         return false;
     }
-    if (!menu.has_configure_command() && !MessageBoxes::save_without_configure_command(&window_))
-        return false;
+    return menu.has_configure_command() || MessageBoxes::save_without_configure_command(&window_);
+}
+
+StoredFlow::Written StoredFlow::write(bool over_all)
+{
     try {
-        stored_.save();
+        const CommandsSaving saving = over_all ? stored_.saving_over_all() : stored_.saving();
+        if (!write_file(saving))
+            return Written::FoundOther;
+        stored_.mark_saved(saving);
+        watch();
+        return Written::Yes;
     } catch (const std::exception& error) {
         MessageBoxes::show_failure(&window_, MessageBoxes::tr("Failed to save stored commands"), error);
+        return Written::No;
+    }
+}
+
+bool StoredFlow::write_file(CommandsSaving saving)
+{
+    const auto is_wanted = std::make_shared<std::atomic<bool>>(true);
+    saving.is_wanted = [is_wanted] { return is_wanted->load(); };
+    BackgroundValue<bool> job([save = files_.save, saving] { return save(saving); });
+    if (BusyDlg::wait_for(job.job(), tr("Saving..."), &window_))
+        return job.take();
+    *is_wanted = false;
+    stored_.give_up(saving);
+    throw std::runtime_error(tr("Saving was cancelled.").toStdString());
+}
+
+bool StoredFlow::merge()
+{
+    BackgroundValue<commands_file::Loaded> reading(files_.read);
+    if (!BusyDlg::wait_for(reading.job(), tr("Loading..."), &window_))
+        return false;
+    try {
+        // A file that is gone meanwhile stands in nobody's way.
+        if (commands_file::Loaded theirs = reading.take(); theirs.text)
+            stored_.merge(std::move(theirs));
+    } catch (const std::exception& error) {
+        MessageBoxes::show_failure(&window_, MessageBoxes::tr("Failed to load stored commands"), error);
         return false;
     }
     return true;
@@ -55,10 +194,63 @@ bool StoredFlow::settle_changes()
 {
     if (!stored_.has_unsaved_changes())
         return true;
-    switch (MessageBoxes::ask_about_changes(&window_)) {
+    switch (MessageBoxes::ask_about_changes(&window_, question_)) {
     case MessageBoxes::SaveChoice::Save: return save();
     case MessageBoxes::SaveChoice::DontSave: return true;
     case MessageBoxes::SaveChoice::Cancel: break;
     }
     return false;
+}
+
+void StoredFlow::call_off()
+{
+    if (question_)
+        question_->reject();
+}
+
+bool StoredFlow::eventFilter(QObject* watched, QEvent* event)
+{
+    // A disk of another machine tells nobody of a change there.
+    if (event->type() == QEvent::WindowActivate)
+        look_timer_.start();
+    return QObject::eventFilter(watched, event);
+}
+
+/// The file itself is another one after each save.
+void StoredFlow::watch()
+{
+    const std::u16string path = MVConfig::get_global().path(FileKind::UserCommands);
+    const QString file = QFile::decodeName(QByteArray::fromStdString(platform::to_host_path(path)));
+    watcher_.addPaths({file, QFileInfo(file).path()});
+}
+
+void StoredFlow::look()
+{
+    if (!has_loaded_)
+        return;
+    if (look_ && !look_->job().is_done()) {
+        look_timer_.start();
+        return;
+    }
+    look_ = std::make_unique<BackgroundValue<commands_file::Loaded>>(files_.load);
+    connect(&look_->job(), &BackgroundJob::done, this, &StoredFlow::take_news);
+}
+
+void StoredFlow::take_news()
+{
+    try {
+        take_over(look_->take());
+        watch();
+    } catch (const std::exception& error) {
+        // Half a file, say: the next change or the next save finds out.
+        qDebug() << "The commands that were changed can't be read:" << error.what();
+    }
+}
+
+void StoredFlow::take_over(const commands_file::Loaded& loaded)
+{
+    const bool is_in_use = is_busy_ || stored_.has_unsaved_changes() || QApplication::activeModalWidget() ||
+                           is_edit_of_row(window_.focusWidget());
+    if (!is_in_use && stored_.is_news(loaded))
+        stored_.take_over(loaded);
 }

@@ -1,20 +1,36 @@
 #pragma once
 
+#include "app/stored_files.h"
+#include "ui/background_job.h"
+
+#include <QDialog>
+#include <QFileSystemWatcher>
+#include <QPointer>
+#include <QTimer>
+
+#include <memory>
+
 class CommandLists;
 class QWidget;
 class StoredState;
 
 /// Loading, saving and resetting the stored commands, with all that is asked and told before and after. Boxes stand
-/// above `window`. Main thread only.
-class StoredFlow
+/// above `window`. Files are read and written on other threads; who waits for one that takes long may cancel that.
+/// What another program has saved comes in as soon as the window has no changes of its own. Main thread only.
+class StoredFlow final : public QObject
 {
-public:
-    StoredFlow(QWidget& window, CommandLists& lists, StoredState& stored)
-        : window_(window), lists_(lists), stored_(stored)
-    {}
+    Q_OBJECT
 
-    /// False when the commands file can't be used, which the user is told once events are processed.
-    bool load();
+public:
+    /// Begins to read the files.
+    StoredFlow(QWidget& window, CommandLists& lists, StoredState& stored, StoredFiles files);
+
+    /// Brings the files' contents to the lists, with `loaded`: at once when they have been read within a moment.
+    /// Otherwise that comes later, and a dialog shows meanwhile; who cancels it goes on with empty lists.
+    void finish_loading();
+
+    /// True once `loaded` has come.
+    bool has_loaded() const { return has_loaded_; }
 
     /// True when the commands file was written. Whatever speaks against is shown to the user.
     bool save();
@@ -24,9 +40,50 @@ public:
 
     /// Asks what becomes of unsaved changes, if there are any. False when the window is to stay.
     bool settle_changes();
+    /// Whoever is being asked so need not answer any more: the window is to stay.
+    void call_off();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+signals:
+    /// Once. When the commands file can't be used the lists are empty, and the user is told once events are
+    /// processed. `last` is the command of the last run, null for none; with `usable` false it is none.
+    void loaded(bool usable, std::shared_ptr<VellumarkCommand> last);
 
 private:
+    enum class Written { Yes, No, FoundOther };
+
+    /// What is read for the start.
+    struct Start {
+        commands_file::Loaded commands;
+        std::shared_ptr<VellumarkCommand> last;
+    };
+
+    static Start read_start(const StoredFiles& files);
+    void wait_for_start();
+    void take_start();
+    bool may_save();
+    /// Whatever fails is shown to the user.
+    Written write(bool over_all);
+    /// False when another file is found. Throws what `commands_saving::write` does, and when the user cancels it.
+    bool write_file(CommandsSaving saving);
+    /// Brings in what another program has saved. False when that can't be read, which the user is told, or the user
+    /// doesn't want to wait for it.
+    bool merge();
+    void watch();
+    void look();
+    void take_news();
+    void take_over(const commands_file::Loaded& loaded);
+
     QWidget& window_;
     CommandLists& lists_;
     StoredState& stored_;
+    const StoredFiles files_;
+    BackgroundValue<Start> start_;
+    bool has_loaded_ = false;
+    bool is_busy_ = false; ///< while a save is on its way
+    QPointer<QDialog> question_;
+    QFileSystemWatcher watcher_;
+    QTimer look_timer_; ///< runs from a change of the files until they have come to rest
+    std::unique_ptr<BackgroundValue<commands_file::Loaded>> look_; ///< the last one; null for none
 };

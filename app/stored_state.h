@@ -2,32 +2,55 @@
 
 #include "store/commands_file.h"
 
+#include <optional>
+#include <string>
 #include <vector>
 
 class CommandLists;
+class Presets;
+class QString;
 
-/// The stored commands and presets, between the commands file and the two lists that show them. Main thread only.
+/// The stored commands and presets, between the commands file and what shows them: the two lists and the presets. It
+/// touches no file, but knows what the file holds. Main thread only.
 class StoredState
 {
 public:
-    /// Empty until `load`.
-    explicit StoredState(CommandLists& lists) : lists_(lists) {}
+    /// Empty until `fill`. A save before that keeps the file that it replaces.
+    StoredState(CommandLists& lists, Presets& presets) : lists_(lists), presets_(presets) {}
 
-    /// Fills the lists and the presets from the commands file. Throws what `commands_file::load` throws; nothing has
-    /// changed then.
-    void load();
-
-    /// Writes the lists and the presets as they are; from then on they count as saved. After a `load` that failed the
-    /// first save keeps the file that it replaces. Throws what
-    /// `commands_file::save` throws; nothing counts as saved then that didn't before.
-    void save();
+    /// Takes what was loaded for the lists and presets, which count as saved.
+    void fill(commands_file::Loaded loaded);
 
     bool has_unsaved_changes() const;
 
+    /// The lists and the presets as they are, to replace the file that is known here.
+    CommandsSaving saving() const;
+    /// The same for whatever file is there, which is kept.
+    CommandsSaving saving_over_all() const;
+
+    /// The save was written: all counts as saved.
+    void mark_saved(const CommandsSaving& saving);
+    /// Nobody waits for the save, which may yet be written: the next one may replace what it wrote.
+    void give_up(const CommandsSaving& saving);
+
+    /// Whether there is a file now that says something else than the one that is known here.
+    bool is_news(const commands_file::Loaded& loaded) const;
+
+    /// Replaces lists without changes of their own, and the presets, by what another program has saved. Commands that
+    /// stay the same stay the same objects. One step of undo.
+    void take_over(const commands_file::Loaded& loaded);
+
+    /// Merges what another program has saved into the lists, as one step of undo, and into the presets.
+    void merge(commands_file::Loaded loaded);
+
 private:
+    void set_known(const commands_file::Loaded& loaded);
+    void push_lists(const StoredCommands& commands, const StoredCommands& saved, const QString& text);
+
     CommandLists& lists_;
-    std::vector<ExtensionsPreset> presets_; ///< the user's, as edited
-    std::vector<ExtensionsPreset> saved_presets_;
-    /// Kept by the next save when nothing could be loaded: the lists say nothing about what the file holds.
-    commands_file::OldFile old_file_ = commands_file::OldFile::Replaced;
+    Presets& presets_;
+    bool is_loaded_ = false;
+    std::optional<std::string> text_;   ///< of the file that was loaded or saved last
+    std::vector<std::string> given_up_; ///< texts of saves since
+    OldFile old_file_ = OldFile::Replaced;
 };

@@ -3,6 +3,7 @@
 class CommandControllerBase;
 class CommandLists;
 class ExemplarItemProvider;
+class Presets;
 class SelectionServices;
 class UndoSteps;
 
@@ -15,6 +16,8 @@ public:
     virtual SelectionServices& selection() = 0;
     virtual CommandLists& lists() = 0;
     virtual UndoSteps& steps() = 0;
+    /// Those that file filters can follow.
+    virtual Presets& presets() = 0;
     virtual ExemplarItemProvider& exemplar() = 0;
 
     /// The editor that shows the active list's current command; null when no editor takes it.

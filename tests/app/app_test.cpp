@@ -47,6 +47,7 @@ std::string flat(const CommandsListController& list)
 
 AppTest::AppTest()
 {
+    files.patience_at_start = std::chrono::minutes(1);
     namespace fs = std::filesystem;
     fs::create_directory(folder.host("run"));
     fs::permissions(folder.host("run"), fs::perms::owner_all);
@@ -69,15 +70,17 @@ void AppTest::run_last(std::string_view name, std::string_view more) const
 
 MirvantaApp& AppTest::open(bool with_editor)
 {
-    app = std::make_unique<MirvantaApp>([&](AppServices& services) {
-        std::vector<std::unique_ptr<CommandControllerBase>> editors;
-        if (with_editor) {
-            auto made = std::make_unique<TestEditor>(services);
-            editor = made.get();
-            editors.push_back(std::move(made));
-        }
-        return editors;
-    });
+    app = std::make_unique<MirvantaApp>(
+        [&](AppServices& services) {
+            std::vector<std::unique_ptr<CommandControllerBase>> editors;
+            if (with_editor) {
+                auto made = std::make_unique<TestEditor>(services);
+                editor = made.get();
+                editors.push_back(std::move(made));
+            }
+            return editors;
+        },
+        files);
     app->show();
     return *app;
 }

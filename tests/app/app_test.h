@@ -48,6 +48,7 @@ protected:
     /// first. With "save" behind it when that button shows.
     std::string state() const;
 
+    StoredFiles files; ///< for the next window
     std::unique_ptr<MirvantaApp> app;
     TestEditor* editor = nullptr;
 

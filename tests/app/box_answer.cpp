@@ -1,5 +1,6 @@
 #include "box_answer.h"
 
+#include "app/busy_dlg.h"
 #include "ui/preview/wait_for_text_dlg.h"
 
 #include <QAbstractButton>
@@ -15,7 +16,7 @@ BoxAnswer::BoxAnswer(QStringList buttons) : buttons_(std::move(buttons))
 void BoxAnswer::answer()
 {
     QWidget* dialog = QApplication::activeModalWidget();
-    if (!dialog || qobject_cast<WaitForTextDlg*>(dialog))
+    if (!dialog || qobject_cast<WaitForTextDlg*>(dialog) || qobject_cast<BusyDlg*>(dialog))
         return;
     const auto* box = qobject_cast<QMessageBox*>(dialog);
     QStringList names;

@@ -6,8 +6,8 @@
 #include <string>
 
 /// Waits for the modal boxes and dialogs that the next calls open, keeps what they say and presses a button in each:
-/// `buttons` in turn, the last one again and again. For "" the box is closed as by its frame. The box that waits for
-/// a text goes by itself.
+/// `buttons` in turn, the last one again and again. For "" the box is closed as by its frame. Dialogs that wait for
+/// a text or a file go by themselves.
 class BoxAnswer
 {
 public:

@@ -4,6 +4,7 @@
 #include "ui/app_services.h"
 #include "ui/editor/command_controller_base.h"
 #include "ui/lists/command_lists.h"
+#include "ui/presets/presets.h"
 #include "ui/preview/exemplar_item_provider.h"
 #include "ui/selection_services.h"
 
@@ -18,6 +19,8 @@ public:
     CommandLists& lists() override { return lists_; }
 
     UndoSteps& steps() override { return steps_; }
+
+    Presets& presets() override { return presets_; }
 
     ExemplarItemProvider& exemplar() override { return exemplar_; }
 
@@ -42,6 +45,7 @@ public:
 private:
     UndoSteps steps_;
     CommandLists lists_{*this, steps_};
+    Presets presets_;
     ExemplarItemProvider exemplar_;
 
 public:

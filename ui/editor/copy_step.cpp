@@ -3,6 +3,7 @@
 #include "engine/commands/vellumark_command.h"
 #include "platform/clipboard.h"
 #include "store/last_command.h"
+#include "ui/background_job.h"
 #include "ui/dialogs/checksum_compare_dlg.h"
 #include "ui/text.h"
 
@@ -10,16 +11,25 @@
 #include <QEventLoopLocker>
 #include <QMessageBox>
 
+#include <chrono>
+
 namespace {
 
+/// Longer than another window's save takes; the program may end before a disk that takes longer.
+constexpr std::chrono::seconds patience_with_disk{2};
+
+/// The text is where the user wants it; without the file the next start just selects another command.
 void keep_as_last_run(const VellumarkCommand& command)
 {
-    try {
-        write_last_command(command);
-    } catch (const std::exception& error) {
-        // The text is where the user wants it; the next start just selects another command.
-        qDebug() << "The last command can't be kept:" << error.what();
-    }
+    const BackgroundJob job([copy = command] {
+        try {
+            write_last_command(copy);
+        } catch (const std::exception& error) {
+            qDebug() << "The last command can't be kept:" << error.what();
+        }
+    });
+    if (!job.wait(patience_with_disk))
+        qDebug() << "The last command isn't kept yet";
 }
 
 }
