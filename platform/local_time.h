@@ -19,6 +19,10 @@ struct BrokenDownTime {
 /// Splits a count of 100 ns since 1601 UTC. Empty for a negative count or a year above 30827.
 std::optional<BrokenDownTime> to_utc_time(std::int64_t ticks);
 
+inline constexpr std::int64_t ticks_per_second = 10'000'000;
+/// From the first moment of this count to that of the host's.
+inline constexpr std::int64_t seconds_1601_to_1970 = 11'644'473'600;
+
 /// The same moment in the machine's time zone ($TZ, else /etc/localtime), by the daylight rule of that date. A change
 /// of the zone counts after a second.
 /// Empty for a count that `to_utc_time` refuses and for a local year outside 1601 to 30827.

@@ -1,6 +1,6 @@
 #include "engine/checksums/crc32.h"
 
-#include "engine/checksums/little_endian.h"
+#include "platform/byte_order.h"
 
 namespace {
 
@@ -43,10 +43,10 @@ void Crc32::update(std::span<const std::byte> bytes)
     const Tables& table = tables();
     for (; bytes.size() >= 16; bytes = bytes.subspan(16)) {
         const std::byte* at = bytes.data();
-        state_ = fold(table, load_little_endian<std::uint32_t>(at) ^ state_, 12) ^
-                 fold(table, load_little_endian<std::uint32_t>(at + 4), 8) ^
-                 fold(table, load_little_endian<std::uint32_t>(at + 8), 4) ^
-                 fold(table, load_little_endian<std::uint32_t>(at + 12), 0);
+        state_ = fold(table, platform::load_little_endian<std::uint32_t>(at) ^ state_, 12) ^
+                 fold(table, platform::load_little_endian<std::uint32_t>(at + 4), 8) ^
+                 fold(table, platform::load_little_endian<std::uint32_t>(at + 8), 4) ^
+                 fold(table, platform::load_little_endian<std::uint32_t>(at + 12), 0);
     }
     for (const std::byte byte : bytes)
         state_ = (state_ >> 8) ^ table[0][(state_ ^ static_cast<std::uint32_t>(byte)) & 0xFF];

@@ -1,6 +1,6 @@
 #include "engine/checksums/xxhash64.h"
 
-#include "engine/checksums/little_endian.h"
+#include "platform/byte_order.h"
 
 #include <algorithm>
 #include <bit>
@@ -34,10 +34,10 @@ void XxHash64::consume(const std::byte* stripes, std::size_t count)
 {
     auto [a, b, c, d] = lanes_;
     for (; count > 0; --count, stripes += stripe_size) {
-        a = round(a, load_little_endian<std::uint64_t>(stripes));
-        b = round(b, load_little_endian<std::uint64_t>(stripes + 8));
-        c = round(c, load_little_endian<std::uint64_t>(stripes + 16));
-        d = round(d, load_little_endian<std::uint64_t>(stripes + 24));
+        a = round(a, platform::load_little_endian<std::uint64_t>(stripes));
+        b = round(b, platform::load_little_endian<std::uint64_t>(stripes + 8));
+        c = round(c, platform::load_little_endian<std::uint64_t>(stripes + 16));
+        d = round(d, platform::load_little_endian<std::uint64_t>(stripes + 24));
     }
     lanes_ = {a, b, c, d};
 }
@@ -67,9 +67,9 @@ std::uint64_t XxHash64::tail_mixed(std::uint64_t hash) const
     const std::byte* at = tail_.data();
     std::size_t left = tail_size_;
     for (; left >= 8; at += 8, left -= 8)
-        hash = std::rotl(hash ^ round(0, load_little_endian<std::uint64_t>(at)), 27) * prime1 + prime4;
+        hash = std::rotl(hash ^ round(0, platform::load_little_endian<std::uint64_t>(at)), 27) * prime1 + prime4;
     if (left >= 4) {
-        hash = std::rotl(hash ^ (load_little_endian<std::uint32_t>(at) * prime1), 23) * prime2 + prime3;
+        hash = std::rotl(hash ^ (platform::load_little_endian<std::uint32_t>(at) * prime1), 23) * prime2 + prime3;
         at += 4;
         left -= 4;
     }

@@ -1,6 +1,7 @@
 #include "platform/host/entry_attributes.h"
 
 #include "platform/host/host_location.h"
+#include "platform/local_time.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -14,10 +15,9 @@ namespace {
 /// 100 ns since 1601 UTC; 0 for a moment before 1601 or too late for the count.
 std::int64_t to_ticks(const statx_timestamp& time)
 {
-    constexpr std::int64_t seconds_1601_to_1970 = 11'644'473'600;
     std::int64_t ticks = 0;
     if (__builtin_add_overflow(time.tv_sec, seconds_1601_to_1970, &ticks) ||
-        __builtin_mul_overflow(ticks, std::int64_t{10'000'000}, &ticks) ||
+        __builtin_mul_overflow(ticks, ticks_per_second, &ticks) ||
         __builtin_add_overflow(ticks, std::int64_t{time.tv_nsec / 100}, &ticks))
         return 0;
     return ticks < 0 ? 0 : ticks;

@@ -12,9 +12,7 @@ using std::chrono::days;
 using std::chrono::sys_days;
 using std::chrono::year;
 
-constexpr std::int64_t ticks_per_second = 10'000'000, seconds_per_day = 86'400;
-constexpr std::int64_t seconds_1601_to_1970 = 11'644'473'600;
-constexpr std::int64_t bucket_seconds = 900;
+constexpr std::int64_t seconds_per_day = 86'400, bucket_seconds = 900;
 constexpr sys_days first_day = year{1601} / 1 / 1, last_day = year{30827} / 12 / 31;
 
 /// Seconds by which local time is ahead of UTC at a moment in seconds since 1970. Empty when the year is too large.

@@ -1,3 +1,4 @@
+#include "platform/host/properties/text_bytes.h"
 #include "platform/local_time.h"
 #include "platform/properties.h"
 
@@ -21,15 +22,10 @@ Overloaded(Visitors...) -> Overloaded<Visitors...>;
 
 using Strings = std::vector<std::u16string>;
 
-/// The text as ASCII without blanks at its ends; empty when it holds anything else.
-std::string ascii(std::u16string_view text)
+/// Without blanks at its ends.
+std::string trimmed_ascii(std::u16string_view text)
 {
-    std::string result;
-    for (const char16_t unit : text) {
-        if (unit == 0 || unit > u'~')
-            return {};
-        result += static_cast<char>(unit);
-    }
+    std::string result = to_ascii(text);
     constexpr const char* blanks = " \t\r\n";
     result.erase(0, result.find_first_not_of(blanks));
     result.erase(result.find_last_not_of(blanks) + 1);
@@ -39,7 +35,7 @@ std::string ascii(std::u16string_view text)
 template <typename Number>
 std::optional<Number> parse(std::u16string_view text)
 {
-    const std::string digits = ascii(text);
+    const std::string digits = trimmed_ascii(text);
     const char* const start = digits.c_str() + (digits.starts_with('+') && !digits.starts_with("+-"));
     const char* const end = digits.c_str() + digits.size();
     Number value{};
@@ -70,9 +66,7 @@ std::optional<Result> of_only_one(const Strings& texts, Convert convert)
 
 std::optional<bool> word_to_bool(std::u16string_view text)
 {
-    std::string word = ascii(text);
-    for (char& c : word)
-        c = static_cast<char>(c >= 'A' && c <= 'Z' ? c + ('a' - 'A') : c);
+    const std::string word = lower_ascii(trimmed_ascii(text));
     if (word == "true" || word == "#true#")
         return true;
     if (word == "false" || word == "#false#")
@@ -189,7 +183,6 @@ std::optional<std::int64_t> to_local_file_time(const PropertyValue& value)
     const auto local = utc ? to_local_time(moment->ticks) : std::nullopt;
     if (!utc || !local)
         return {};
-    constexpr std::int64_t ticks_per_second = 10'000'000;
     return moment->ticks + (seconds_of(*local) - seconds_of(*utc)) * ticks_per_second;
 }
 

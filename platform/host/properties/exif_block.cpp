@@ -1,5 +1,6 @@
 #include "platform/host/properties/exif_block.h"
 
+#include "platform/byte_order.h"
 #include "platform/host/properties/heif_exif.h"
 
 #include <algorithm>
@@ -14,19 +15,6 @@ constexpr std::string_view exif_head = "Exif\0\0"sv;
 constexpr std::size_t largest_block = 65'533;
 /// Segments or chunks to walk over before the search is given up.
 constexpr int most_steps = 200;
-
-std::uint32_t big_endian(std::string_view bytes)
-{
-    std::uint32_t value = 0;
-    for (const char byte : bytes)
-        value = value << 8 | static_cast<unsigned char>(byte);
-    return value;
-}
-
-std::uint32_t little_endian(std::string_view bytes)
-{
-    return big_endian(std::string(bytes.rbegin(), bytes.rend()));
-}
 
 std::string with_head(std::string block)
 {
@@ -44,7 +32,7 @@ std::string in_jpeg(SubjectFile& file)
         const std::string start = file.read_text(at, lead + exif_head.size());
         if (start.size() < lead || start[0] != '\xFF' || start[1] == '\xDA')
             return {};
-        const std::uint32_t length = big_endian(std::string_view(start).substr(2, 2));
+        const std::uint64_t length = big_endian(std::string_view(start).substr(2, 2));
         if (length < 2)
             return {};
         if (start[1] == '\xE1' && start.substr(lead) == exif_head)

@@ -1,5 +1,7 @@
 #include "platform/host/properties/heif_exif.h"
 
+#include "platform/byte_order.h"
+
 #include <algorithm>
 
 namespace platform {
@@ -25,13 +27,7 @@ public:
         return taken;
     }
 
-    std::uint64_t take(std::size_t size)
-    {
-        std::uint64_t value = 0;
-        for (const char byte : take_bytes(size))
-            value = value << 8 | static_cast<unsigned char>(byte);
-        return value;
-    }
+    std::uint64_t take(std::size_t size) { return big_endian(take_bytes(size)); }
 
 private:
     std::string_view bytes_;

@@ -1,3 +1,4 @@
+#include "platform/byte_order.h"
 #include "platform/host/properties/leading_numbers.h"
 #include "platform/host/properties/media_readers.h"
 #include "platform/host/properties/moments.h"
@@ -112,10 +113,7 @@ void set_four_cc(PropertyBag& bag, std::u16string_view name, const std::string& 
     // More than the code of the codec can follow: "mp4v-20".
     if (text.size() < 4 || (text.size() > 4 && text[4] != '-'))
         return;
-    std::uint64_t code = 0;
-    for (std::size_t i = 4; i-- > 0;)
-        code = code << 8 | static_cast<unsigned char>(text[i]);
-    bag.set_count(name, code);
+    bag.set_count(name, little_endian(std::string_view(text).substr(0, 4)));
 }
 
 /// MediaInfo puts " / " between several values.

@@ -12,8 +12,6 @@ namespace platform {
 
 namespace {
 
-constexpr std::int64_t ticks_per_second = 10'000'000, seconds_1601_to_1970 = 11'644'473'600;
-
 constexpr bool is_digit(char c)
 {
     return c >= '0' && c <= '9';

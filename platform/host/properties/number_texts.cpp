@@ -1,5 +1,6 @@
 #include "platform/host/properties/display_text.h"
 #include "platform/host/user_locale.h"
+#include "platform/local_time.h"
 
 #include <array>
 #include <cmath>
@@ -34,8 +35,8 @@ std::u16string size_text(double bytes)
 
 std::u16string duration_text(std::int64_t ticks)
 {
-    constexpr std::int64_t second = 10'000'000, seconds_per_hour = 3600;
-    const std::int64_t seconds = (ticks + second / 2) / second;
+    constexpr std::int64_t seconds_per_hour = 3600;
+    const std::int64_t seconds = (ticks + ticks_per_second / 2) / ticks_per_second;
     const auto two_digits = [](std::int64_t number) {
         return std::u16string{static_cast<char16_t>(u'0' + number / 10), static_cast<char16_t>(u'0' + number % 10)};
     };

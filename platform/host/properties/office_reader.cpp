@@ -1,7 +1,9 @@
 #include "platform/host/properties/moments.h"
 #include "platform/host/properties/readers.h"
+#include "platform/host/properties/text_bytes.h"
 #include "platform/host/properties/xml_fields.h"
 #include "platform/host/properties/zip_archive.h"
+#include "platform/local_time.h"
 
 #include <span>
 
@@ -61,17 +63,9 @@ constexpr FieldRow odf_fields[] = {
     {u"@character-count", Shape::Number, u"System.Document.CharacterCount"},
 };
 
-std::string ascii(const std::u16string& text)
-{
-    std::string result;
-    for (const char16_t unit : text)
-        result += unit < 0x80 ? static_cast<char>(unit) : '?';
-    return result;
-}
-
 void set_field(PropertyBag& bag, const FieldRow& row, const std::u16string& text)
 {
-    constexpr std::int64_t ticks_per_minute = 600'000'000, most_minutes = 100'000'000;
+    constexpr std::int64_t ticks_per_minute = 60 * ticks_per_second, most_minutes = 100'000'000;
     const auto number = to_int64(text);
     switch (row.shape) {
     case Shape::Text: bag.set_text(row.name, text); break;
@@ -80,13 +74,13 @@ void set_field(PropertyBag& bag, const FieldRow& row, const std::u16string& text
         if (number && *number >= 0 && *number <= INT32_MAX)
             bag.set_number(row.name, *number);
         break;
-    case Shape::Moment: bag.set_time(row.name, parse_moment(ascii(text), AssumedZone::Local)); break;
+    case Shape::Moment: bag.set_time(row.name, parse_moment(to_ascii(text), AssumedZone::Local)); break;
     case Shape::Minutes:
         if (number && *number >= 0 && *number <= most_minutes)
             bag.set_count(row.name, static_cast<std::uint64_t>(*number * ticks_per_minute));
         break;
     case Shape::Duration:
-        if (const auto ticks = parse_duration(ascii(text)))
+        if (const auto ticks = parse_duration(to_ascii(text)))
             bag.set_count(row.name, static_cast<std::uint64_t>(*ticks));
         break;
     }

@@ -1,5 +1,6 @@
 #include "platform/host/properties/text_bytes.h"
 
+#include "platform/byte_order.h"
 #include "platform/utf.h"
 
 namespace platform {
@@ -44,11 +45,25 @@ std::u16string decode_bytes(std::string_view bytes)
 
 std::u16string decode_ucs2(std::string_view bytes)
 {
-    const auto byte = [bytes](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
     std::u16string result;
     for (std::size_t i = 0; i + 1 < bytes.size(); i += 2)
-        result += static_cast<char16_t>(byte(i) | byte(i + 1) << 8);
+        result += static_cast<char16_t>(little_endian(bytes.substr(i, 2)));
     return result;
+}
+
+std::string to_ascii(std::u16string_view text)
+{
+    std::string result;
+    for (const char16_t unit : text)
+        result += unit < 0x80 ? static_cast<char>(unit) : '?';
+    return result;
+}
+
+std::string lower_ascii(std::string text)
+{
+    for (char& c : text)
+        c = static_cast<char>(c >= 'A' && c <= 'Z' ? c + ('a' - 'A') : c);
+    return text;
 }
 
 std::u16string tidy_text(std::u16string_view text)

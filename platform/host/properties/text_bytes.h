@@ -12,6 +12,11 @@ std::u16string decode_bytes(std::string_view bytes);
 /// Two bytes a unit, the low one first.
 std::u16string decode_ucs2(std::string_view bytes);
 
+/// Unit for unit, "?" for what is no ASCII.
+std::string to_ascii(std::u16string_view text);
+/// With the letters A to Z in lower case.
+std::string lower_ascii(std::string text);
+
 /// A property is a line or a paragraph, and what is longer was made to fill memory.
 inline constexpr std::size_t longest_text = 32'767;
 

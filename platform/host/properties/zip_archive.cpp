@@ -1,5 +1,6 @@
 #include "platform/host/properties/zip_archive.h"
 
+#include "platform/byte_order.h"
 #include "platform/host/properties/zip_input.h"
 
 #include <zip.h>
@@ -15,14 +16,6 @@ using namespace std::string_view_literals;
 /// Far more than an honest document says of itself; to parse what is longer takes noticeable time.
 constexpr std::size_t most_content = 128 << 10;
 
-std::uint64_t number_at(std::string_view bytes, std::size_t at)
-{
-    std::uint64_t value = 0;
-    for (std::size_t i = 4; i-- > 0;)
-        value = value << 8 | static_cast<unsigned char>(bytes[at + i]);
-    return value;
-}
-
 /// Whether every list of contents that could be meant is small: the list is read whole when the archive is opened.
 /// One of an archive in the form for more than 4 GB tells its size elsewhere, and documents aren't archived so.
 bool has_small_directory(SubjectFile& file)
@@ -35,7 +28,7 @@ bool has_small_directory(SubjectFile& file)
     bool is_found = false;
     for (std::size_t at = 0; (at = end.find("PK\5\6"sv, at)) != end.npos && end.size() - at >= end_size; ++at) {
         const bool is_large = at >= locator_size && end.substr(at - locator_size).starts_with("PK\6\7");
-        if (is_large || number_at(end, at + size_at) > largest_directory)
+        if (is_large || little_endian(end.substr(at + size_at, 4)) > largest_directory)
             return false;
         is_found = true;
     }
