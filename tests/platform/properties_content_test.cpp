@@ -118,7 +118,35 @@ std::string heif()
     return brand + meta(brand.size() + meta(0).size() + 8) + box("mdat", data);
 }
 
-TEST(PropertyContent, OfPictures)
+/// Of one packet.
+std::string ogg_page(const std::string& packet, unsigned index)
+{
+    return "OggS\0"s + (index == 0 ? '\2' : '\0') + number(0, 8) + number(1, 4) + number(index, 4) + number(0, 4) +
+           '\1' + number(packet.size(), 1) + packet;
+}
+
+/// 32 x 24 pixels, without a picture.
+std::string theora_film()
+{
+    const std::string size = number(2, 2, true) + number(2, 2, true) + number(32, 3, true) + number(24, 3, true);
+    const std::string rate = number(25, 4, true) + number(1, 4, true);
+    return ogg_page("\x80theora\3\2\1"s + size + "\0\0"s + rate + number(0, 12), 0) +
+           ogg_page("\x81theora" + number(0, 8), 1);
+}
+
+/// 32 x 24 pixels, each pack with the beginning of a picture.
+std::string program_stream()
+{
+    const std::string picture = "\0\0\1\xB3\2\0\x18\x13\xFF\xFF\xE0\x18\0\0\1\xB8\0\x08\0\0"s +
+                                "\0\0\1\0\0\x0F\xFF\xF8\0\0\1\1"s + std::string(40, '"');
+    std::string result;
+    for (int i = 0; i < 10; ++i)
+        result += "\0\0\1\xBA\x44\0\4\0\4\1\0\0\3\xF8\0\0\1\xE0"s + number(picture.size() + 3, 2, true) +
+                  "\x80\0\0"s + picture;
+    return result;
+}
+
+TEST(PropertyContent, OfPicturesAndFilms)
 {
     struct Row {
         const char* name;
@@ -130,7 +158,13 @@ TEST(PropertyContent, OfPictures)
 
     const std::string gif = "GIF89a\5\0\3\0"s,
                       webp = "RIFF\x1A\0\0\0WEBPVP8L\x0D\0\0\0\x2F\4\x80\0\x10\7\x10\x11\x11"s + "\x88\x88\xFE\7\0"s;
+    const std::string theora = theora_film(), camcorder = program_stream();
     const Row rows[] = {
+        {"film.ogg", ogg_page("\1vorbis", 0) + theora, u"Kind", 1, "video"},
+        {"film.ogg", theora, u"Video.FrameWidth", WITH_MEDIAINFO, "32 pixels"},
+        {"film.mod", camcorder, u"Kind", 1, "video"},
+        {"film.mod", camcorder, u"Video.FrameWidth", WITH_MEDIAINFO, "32 pixels"},
+        {"song.mod", std::string(1080, '\0') + "M.K.", u"Kind", 1, "music"},
         {"few.gif", gif + "\xA1\0\0"s + std::string(12, '\0') + ";", u"Image.BitDepth", WITH_QTGUI, "2"},
         {"few.gif", gif + "\xA1\0\0"s + std::string(12, '\0') + ";", u"Image.Dimensions", WITH_QTGUI, "5 x 3"},
         {"many.gif", gif + "\0\0\0;"s, u"Image.BitDepth", WITH_QTGUI, "8"},
@@ -146,13 +180,6 @@ TEST(PropertyContent, OfPictures)
     for (const auto& row : rows)
         EXPECT_EQ(shown(folder.write(row.name, row.content), row.property), row.is_built ? row.expected : "-")
             << row.name;
-}
-
-/// Of one packet.
-std::string ogg_page(const std::string& packet, unsigned index)
-{
-    return "OggS\0"s + (index == 0 ? '\2' : '\0') + number(0, 8) + number(1, 4) + number(index, 4) + number(0, 4) +
-           '\1' + number(packet.size(), 1) + packet;
 }
 
 /// 8000 Hz, one channel, 16 bits, one tag.

@@ -34,14 +34,22 @@ std::u16string_view SubjectFile::extension() const
     return dot == file_name.npos ? std::u16string_view() : file_name.substr(dot);
 }
 
+FileFormat SubjectFile::named_format() const
+{
+    const ExtensionRow* const row = find_extension(extension());
+    return row ? row->format : FileFormat::Other;
+}
+
 FileKind SubjectFile::kind()
 {
     if (!kind_) {
-        const auto by_extension = kind_by_extension(extension());
+        const ExtensionRow* const row = find_extension(extension());
+        kind_ = row ? row->kind : FileKind::Other;
         if (host_type() != S_IFREG)
             kind_ = FileKind::Other;
-        else
-            kind_ = by_extension ? *by_extension : kind_by_content(head());
+        else if (!row || row->is_shared)
+            if (const FileKind by_content = kind_by_content(head()); by_content != FileKind::Other)
+                kind_ = by_content;
     }
     return *kind_;
 }

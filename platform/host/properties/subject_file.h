@@ -2,6 +2,7 @@
 
 #include "platform/files.h"
 #include "platform/host/descriptor.h"
+#include "platform/host/properties/file_kind.h"
 #include "platform/host/properties/read_allowance.h"
 
 #include <cstdint>
@@ -10,18 +11,6 @@
 #include <string_view>
 
 namespace platform {
-
-/// Which metadata libraries a file's type calls for. Folders, and files that no library reads, are `Other`.
-enum class FileKind { Other, Image, Audio, Video, Pdf, Office };
-
-/// `extension` with its dot, in any case. Empty for one that tells nothing.
-std::optional<FileKind> kind_by_extension(std::u16string_view extension);
-
-/// True for one that films have and other files as well, so that only the content tells.
-bool is_ambiguous(std::u16string_view extension);
-
-/// By the first bytes of the content.
-FileKind kind_by_content(std::string_view head);
 
 /// The file whose properties are asked for. It is opened at the first look at its content, and only when it is a
 /// regular file. The libraries read through `read_at`, which ends when they ask for more than any honest file needs.
@@ -37,6 +26,8 @@ public:
     std::u16string_view name() const;
     /// With its dot; empty when the name has none.
     std::u16string_view extension() const;
+    /// The format that the extension names; the content needn't agree.
+    FileFormat named_format() const;
 
     /// Empty when the path leads nowhere.
     const std::optional<FileAttributes>& attributes() const { return attributes_; }

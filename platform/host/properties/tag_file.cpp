@@ -36,8 +36,7 @@ std::unique_ptr<TagLib::File> plainly(TagStream& stream)
 struct TypeRow {
     /// True for a file that begins like one of the type; null when only the extensions tell.
     bool (*matches)(TagLib::IOStream*);
-    /// Lower case, each with its dot and a blank behind it.
-    std::string_view extensions;
+    FileFormat format;
     std::unique_ptr<TagLib::File> (*open)(TagStream&);
 };
 
@@ -46,29 +45,27 @@ using namespace TagLib;
 // Asked in this order. FLAC in Ogg has the mark of plain FLAC too, so it comes first; what an MP3 file begins with is
 // found in many others, so it comes last.
 const TypeRow types[] = {
-    {Ogg::FLAC::File::isSupported, ".oga ", plainly<Ogg::FLAC::File>},
-    {FLAC::File::isSupported, ".flac ", with_frames<FLAC::File>},
-    {Ogg::Vorbis::File::isSupported, ".ogg .oga ", plainly<Ogg::Vorbis::File>},
-    {Ogg::Opus::File::isSupported, ".opus ", plainly<Ogg::Opus::File>},
-    {Ogg::Speex::File::isSupported, ".spx ", plainly<Ogg::Speex::File>},
-    {MP4::File::isSupported, ".m4a .m4b .m4p .mp4 .m4v ", plainly<MP4::File>},
-    {ASF::File::isSupported, ".wma .wmv .asf ", plainly<ASF::File>},
-    {RIFF::WAV::File::isSupported, ".wav .wave ", plainly<RIFF::WAV::File>},
-    {RIFF::AIFF::File::isSupported, ".aif .aiff .aifc ", plainly<RIFF::AIFF::File>},
-    {APE::File::isSupported, ".ape ", plainly<APE::File>},
-    {MPC::File::isSupported, ".mpc ", plainly<MPC::File>},
-    {WavPack::File::isSupported, ".wv ", plainly<WavPack::File>},
-    {TrueAudio::File::isSupported, ".tta ", with_frames<TrueAudio::File>},
-    {MPEG::File::isSupported, ".mp3 .mp2 .mpga ", with_frames<MPEG::File>},
+    {Ogg::FLAC::File::isSupported, FileFormat::Ogg, plainly<Ogg::FLAC::File>},
+    {FLAC::File::isSupported, FileFormat::Flac, with_frames<FLAC::File>},
+    {Ogg::Vorbis::File::isSupported, FileFormat::Ogg, plainly<Ogg::Vorbis::File>},
+    {Ogg::Opus::File::isSupported, FileFormat::Ogg, plainly<Ogg::Opus::File>},
+    {Ogg::Speex::File::isSupported, FileFormat::Ogg, plainly<Ogg::Speex::File>},
+    {MP4::File::isSupported, FileFormat::Mp4, plainly<MP4::File>},
+    {ASF::File::isSupported, FileFormat::Asf, plainly<ASF::File>},
+    {RIFF::WAV::File::isSupported, FileFormat::Wav, plainly<RIFF::WAV::File>},
+    {RIFF::AIFF::File::isSupported, FileFormat::Aiff, plainly<RIFF::AIFF::File>},
+    {APE::File::isSupported, FileFormat::Ape, plainly<APE::File>},
+    {MPC::File::isSupported, FileFormat::Musepack, plainly<MPC::File>},
+    {WavPack::File::isSupported, FileFormat::WavPack, plainly<WavPack::File>},
+    {TrueAudio::File::isSupported, FileFormat::TrueAudio, with_frames<TrueAudio::File>},
+    {MPEG::File::isSupported, FileFormat::Mpeg, with_frames<MPEG::File>},
 };
 
 /// The type that the extension names, when the content agrees, else the first whose content it is.
-const TypeRow* type_of(TagStream& stream, FileKind kind)
+const TypeRow* type_of(TagStream& stream, FileFormat named, FileKind kind)
 {
-    const std::string extension = std::string(stream.name()).substr(1) + " ";
     for (const auto& type : types)
-        if (extension.size() > 1 && type.extensions.find(extension) != std::string_view::npos &&
-            type.matches(&stream))
+        if (type.format == named && type.matches(&stream))
             return &type;
     for (const auto& type : types) {
         // A film has what looks like the beginning of an MP3 file somewhere.
@@ -96,7 +93,7 @@ TagFile::TagFile(SubjectFile& file)
     if (file.descriptor() < 0)
         return;
     stream_ = std::make_unique<TagStream>(file);
-    const TypeRow* const type = type_of(*stream_, file.kind());
+    const TypeRow* const type = type_of(*stream_, file.named_format(), file.kind());
     if (!type)
         return;
     file_ = type->open(*stream_);

@@ -35,11 +35,7 @@ void mark_frames_plain(TagLib::ByteVector& data)
 
 }
 
-TagStream::TagStream(SubjectFile& file) : file_(file), is_open_(file.descriptor() >= 0), name_("x")
-{
-    for (const char16_t unit : file.extension())
-        name_ += unit < 0x80 ? static_cast<char>(unit) : '?';
-}
+TagStream::TagStream(SubjectFile& file) : file_(file), is_open_(file.descriptor() >= 0) {}
 
 TagLib::ByteVector TagStream::readBlock(unsigned long length)
 {

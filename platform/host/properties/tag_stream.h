@@ -13,7 +13,7 @@ class TagStream final : public TagLib::IOStream
 public:
     explicit TagStream(SubjectFile& file);
 
-    TagLib::FileName name() const override { return name_.c_str(); }
+    TagLib::FileName name() const override { return ""; }
 
     /// Behind a read that was cut the position is where the whole one would have ended.
     TagLib::ByteVector readBlock(unsigned long length) override;
@@ -40,8 +40,6 @@ private:
     /// Whether the last ID3 tag seen is written in the way that hides where its frames begin.
     bool is_escaped_ = false;
     bool is_open_;
-    /// TagLib looks at the extension only.
-    std::string name_;
     long position_ = 0;
     /// What was read last, at least a page of it: TagLib reads a few bytes at a time.
     std::string page_;

@@ -44,6 +44,13 @@ const char* type_without_content(unsigned host_type)
     }
 }
 
+/// True when the name says less of the type than the content, or something else.
+bool is_misleading(SubjectFile& file)
+{
+    const ExtensionRow* const row = find_extension(file.extension());
+    return row && row->is_shared && (row->kind == FileKind::Other || row->kind != file.kind());
+}
+
 QMimeType type_of(SubjectFile& file)
 {
     static const QMimeDatabase database;
@@ -52,7 +59,7 @@ QMimeType type_of(SubjectFile& file)
     std::u16string name(file.name());
     make_presentable(name);
     const QByteArray head(file.head().data(), static_cast<qsizetype>(file.head().size()));
-    if (is_ambiguous(file.extension()) && !head.isEmpty())
+    if (is_misleading(file) && !head.isEmpty())
         return database.mimeTypeForData(head);
     return database.mimeTypeForFileNameAndData(QString::fromStdU16String(name), head);
 }
@@ -72,6 +79,9 @@ bool read_type(SubjectFile& file, PropertyBag& bag)
     const std::u16string mime_name = type.name().toStdU16String();
     bag.set_text(u"System.MIMEType", mime_name);
     bag.set_text(u"System.ItemTypeText", type.comment().toStdU16String());
+    // Of several streams in one file the database tells the first.
+    if (file.kind() == FileKind::Video)
+        bag.set_list(u"System.Kind", u"video");
     set_kind(bag, mime_name);
     return true;
 }
