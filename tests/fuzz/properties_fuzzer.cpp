@@ -16,7 +16,7 @@ namespace {
 constexpr std::string_view extensions[] = {"",     ".jpg", ".png",  ".tif",  ".nef", ".heic", ".webp",
                                            ".gif", ".bmp", ".mp3",  ".flac", ".ogg", ".opus", ".spx",
                                            ".m4a", ".wma", ".wav",  ".aif",  ".ape", ".mpc",  ".wv",
-                                           ".tta", ".pdf", ".docx", ".odt",  ".ico", ".ppm"};
+                                           ".tta", ".pdf", ".docx", ".odt",  ".ico", ".ppm",  ".tga"};
 
 std::string file_name(unsigned byte)
 {

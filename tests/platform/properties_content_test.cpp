@@ -158,8 +158,20 @@ TEST(PropertyContent, OfPicturesAndFilms)
 
     const std::string gif = "GIF89a\5\0\3\0"s,
                       webp = "RIFF\x1A\0\0\0WEBPVP8L\x0D\0\0\0\x2F\4\x80\0\x10\7\x10\x11\x11"s + "\x88\x88\xFE\7\0"s;
+    const std::string tga = "\0\0\2"s + std::string(9, '\0') + number(1920, 2) + number(1080, 2) + "\x18\0"s;
+    const std::string cursor = "\0\0\2\0\1\0\x20\x20\0\0\0\0\x18\0"s + number(40, 4) + number(22, 4);
+    const std::string bmp = "BM" + number(0, 8) + number(54, 4) + number(40, 4) + number(5, 4) +
+                            number(static_cast<std::uint64_t>(-3), 4) + number(1, 2) + number(16, 2);
     const std::string theora = theora_film(), camcorder = program_stream();
     const Row rows[] = {
+        {"plain.tga", tga, u"Image.Dimensions", WITH_QTGUI, "1920 x 1080"},
+        {"plain.tga", tga, u"Image.BitDepth", WITH_QTGUI, "24"},
+        {"arrow.cur", cursor, u"Image.Dimensions", WITH_QTGUI, "32 x 32"},
+        {"deep.pgm", "P5 # 8 8\n3\n2 65535\n", u"Image.BitDepth", WITH_QTGUI, "16"},
+        {"deep.pgm", "P5 # 8 8\n3\n2 65535\n", u"Image.Dimensions", WITH_QTGUI, "3 x 2"},
+        {"colours.bmp", bmp, u"Image.Dimensions", WITH_QTGUI, "5 x 3"},
+        {"colours.bmp", bmp, u"Image.BitDepth", WITH_QTGUI, "16"},
+        {"short.webp", "RIFFWEBP", u"Image.Dimensions", WITH_QTGUI, "-"},
         {"film.ogg", ogg_page("\1vorbis", 0) + theora, u"Kind", 1, "video"},
         {"film.ogg", theora, u"Video.FrameWidth", WITH_MEDIAINFO, "32 pixels"},
         {"film.mod", camcorder, u"Kind", 1, "video"},

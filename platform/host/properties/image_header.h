@@ -11,11 +11,12 @@ struct ImageHeader {
     std::uint64_t bit_depth = 0;
 };
 
-/// True for PNG, GIF, WebP and TIFF.
+/// True for PNG, GIF, WebP, TIFF, BMP, netpbm's formats and TGA.
 bool has_plain_header(SubjectFile& file);
 
 /// What the header of such a file says; empty for a broken one. Read here since the usual decoders of PNG and TIFF
-/// tell errors on the standard error output past all logging, and that of WebP is seldom installed.
+/// tell errors on the standard error output past all logging, those of WebP and TGA are seldom installed, and those
+/// of the others tell the bits that a pixel takes in memory.
 std::optional<ImageHeader> image_header(SubjectFile& file);
 
 }

@@ -58,7 +58,7 @@ void silence_decoders()
 /// Formats whose header tells the size; others, such as drawings, would be read whole.
 bool is_quick(const QByteArray& format)
 {
-    constexpr std::array<std::string_view, 8> formats{"jpeg", "jpg", "bmp", "ico", "cur", "ppm", "pgm", "pbm"};
+    constexpr std::array<std::string_view, 4> formats{"jpeg", "jpg", "ico", "cur"};
     return std::ranges::find(formats, std::string_view(format.data(), static_cast<std::size_t>(format.size()))) !=
            formats.end();
 }
