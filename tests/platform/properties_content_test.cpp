@@ -214,4 +214,36 @@ TEST(PropertyContent, OfFlacInOgg)
     }
 }
 
+/// A frame of ID3 2.3.
+std::string id3_frame(const std::string& name, const std::string& content, bool is_compressed = false)
+{
+    return name + number(content.size(), 4, true) + '\0' + (is_compressed ? '\x80' : '\0') + content;
+}
+
+std::string id3_tag(const std::string& frames)
+{
+    const std::size_t size = frames.size();
+    return "ID3\3\0\0\0"s + number(size >> 14 & 127, 1) + number(size >> 7 & 127, 1) + number(size & 127, 1) + frames;
+}
+
+/// TagLib would inflate without a limit.
+TEST(PropertyContent, OfCompressedTags)
+{
+    if (!WITH_TAGLIB)
+        GTEST_SKIP() << "no tags without the library";
+    const std::string cover = id3_frame("APIC", std::string(70'000, '\1')), plain = id3_frame("TIT2", "\0Bell"s);
+    const std::string packed = number(5, 4, true) + "\x78\1\1\5\0\xFA\xFF\0Bell\3\x80\1\x80"s;
+    const std::string squeezed = id3_frame("TIT2", packed, true), sound = content_of(song).substr(346),
+                      wave = content_of(other_song);
+    const TempFolder folder;
+    const auto title = [&](const std::string& frames) {
+        const std::string tag = id3_tag(frames), chunk = wave + "id3 " + number(tag.size(), 4) + tag;
+        return shown(folder.write("tagged.mp3", tag + sound), u"Title") + " " +
+               shown(folder.write("tagged.wav", "RIFF" + number(chunk.size() - 8, 4) + chunk.substr(8)), u"Title");
+    };
+    EXPECT_EQ(title(squeezed), "- -");
+    EXPECT_EQ(title(cover + plain), "Bell Bell");
+    EXPECT_EQ(title(cover + squeezed), "- -");
+}
+
 }

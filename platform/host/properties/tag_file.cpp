@@ -1,10 +1,11 @@
 #include "platform/host/properties/tag_file.h"
 
+#include "platform/host/properties/tag_frames.h"
+
 #include <aifffile.h>
 #include <apefile.h>
 #include <asffile.h>
 #include <flacfile.h>
-#include <id3v2framefactory.h>
 #include <mp4file.h>
 #include <mpcfile.h>
 #include <mpegfile.h>
@@ -20,24 +21,57 @@ namespace platform {
 
 namespace {
 
+/// What TagLib makes of a file.
+struct Opened {
+    std::unique_ptr<TagLib::File> file;
+    /// Where an ID3 tag begins that was hidden from TagLib; 0 for none.
+    long hidden_tag = 0;
+};
+
 template <typename File>
-std::unique_ptr<TagLib::File> with_frames(TagStream& stream)
+Opened with_frames(TagStream& stream)
 {
-    return std::make_unique<File>(&stream, TagLib::ID3v2::FrameFactory::instance(), true,
-                                  TagLib::AudioProperties::Fast);
+    return {std::make_unique<File>(&stream, TagFrames::instance(), true, TagLib::AudioProperties::Fast)};
 }
 
 template <typename File>
-std::unique_ptr<TagLib::File> plainly(TagStream& stream)
+Opened plainly(TagStream& stream)
 {
-    return std::make_unique<File>(&stream, true, TagLib::AudioProperties::Fast);
+    return {std::make_unique<File>(&stream, true, TagLib::AudioProperties::Fast)};
+}
+
+/// A file of chunks, of which one can be an ID3 tag.
+template <typename File>
+class Chunks final : public File
+{
+public:
+    using File::File;
+
+    long tag_place() const
+    {
+        for (unsigned i = 0; i < this->chunkCount(); ++i)
+            if (this->chunkName(i) == "ID3 " || this->chunkName(i) == "id3 ")
+                return static_cast<long>(this->chunkOffset(i));
+        return 0;
+    }
+};
+
+/// TagLib would make the frames of such a file with no factory but its own.
+template <typename File>
+Opened without_tag(TagStream& stream)
+{
+    stream.hide_tags(true);
+    auto file = std::make_unique<Chunks<File>>(&stream, true, TagLib::AudioProperties::Fast);
+    stream.hide_tags(false);
+    const long tag_place = file->tag_place();
+    return {std::move(file), tag_place};
 }
 
 struct TypeRow {
     /// True for a file that begins like one of the type; null when only the extensions tell.
     bool (*matches)(TagLib::IOStream*);
     FileFormat format;
-    std::unique_ptr<TagLib::File> (*open)(TagStream&);
+    Opened (*open)(TagStream&);
 };
 
 using namespace TagLib;
@@ -52,8 +86,8 @@ const TypeRow types[] = {
     {Ogg::Speex::File::isSupported, FileFormat::Ogg, plainly<Ogg::Speex::File>},
     {MP4::File::isSupported, FileFormat::Mp4, plainly<MP4::File>},
     {ASF::File::isSupported, FileFormat::Asf, plainly<ASF::File>},
-    {RIFF::WAV::File::isSupported, FileFormat::Wav, plainly<RIFF::WAV::File>},
-    {RIFF::AIFF::File::isSupported, FileFormat::Aiff, plainly<RIFF::AIFF::File>},
+    {RIFF::WAV::File::isSupported, FileFormat::Wav, without_tag<RIFF::WAV::File>},
+    {RIFF::AIFF::File::isSupported, FileFormat::Aiff, without_tag<RIFF::AIFF::File>},
     {APE::File::isSupported, FileFormat::Ape, plainly<APE::File>},
     {MPC::File::isSupported, FileFormat::Musepack, plainly<MPC::File>},
     {WavPack::File::isSupported, FileFormat::WavPack, plainly<WavPack::File>},
@@ -96,11 +130,19 @@ TagFile::TagFile(SubjectFile& file)
     const TypeRow* const type = type_of(*stream_, file.named_format(), file.kind());
     if (!type)
         return;
-    file_ = type->open(*stream_);
+    Opened opened = type->open(*stream_);
+    file_ = std::move(opened.file);
     if (!file_->isValid())
         file_.reset();
+    else if (opened.hidden_tag != 0)
+        hidden_tag_ = std::make_unique<ID3v2::Tag>(file_.get(), opened.hidden_tag, TagFrames::instance());
     if (type->matches == ASF::File::isSupported)
         knows_sound_ = has_sound_alone(file);
+}
+
+PropertyMap TagFile::tags() const
+{
+    return hidden_tag_ && !hidden_tag_->isEmpty() ? hidden_tag_->properties() : file_->properties();
 }
 
 namespace {

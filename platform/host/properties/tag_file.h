@@ -2,7 +2,9 @@
 
 #include "platform/host/properties/tag_stream.h"
 
+#include <id3v2tag.h>
 #include <tfile.h>
+#include <tpropertymap.h>
 
 #include <memory>
 
@@ -17,12 +19,17 @@ public:
     /// Null when TagLib doesn't know the format.
     TagLib::File* get() const { return file_.get(); }
 
+    /// What the file's tags say; the file is known.
+    TagLib::PropertyMap tags() const;
+
     /// False for a file whose stream TagLib takes for sound whatever it is.
     bool knows_sound() const { return knows_sound_; }
 
 private:
     std::unique_ptr<TagStream> stream_;
     std::unique_ptr<TagLib::File> file_;
+    /// Of a file whose ID3 tag TagLib would read with frames of its own.
+    std::unique_ptr<TagLib::ID3v2::Tag> hidden_tag_;
     bool knows_sound_ = true;
 };
 

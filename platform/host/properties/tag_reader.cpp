@@ -138,7 +138,7 @@ bool read_tags(SubjectFile& file, PropertyBag& bag)
         const TagFile opened(file);
         if (!opened.get())
             return false;
-        set_tags(bag, opened.get()->properties());
+        set_tags(bag, opened.tags());
         set_rating(bag, *opened.get());
         // Of a film TagLib sees the tags and perhaps the sound, so MediaInfo is asked for what is missing.
         return set_sound(bag, opened) && file.kind() == FileKind::Audio;

@@ -6,12 +6,14 @@
 
 namespace platform {
 
-/// The file as TagLib takes it: read-only, and with a limit to what one read gives. TagLib inflates the compressed
-/// frames of ID3 without a limit of its own, so large tags are given to it with these frames marked as plain ones.
+/// The file as TagLib takes it: read-only, and with a limit to what one read gives.
 class TagStream final : public TagLib::IOStream
 {
 public:
     explicit TagStream(SubjectFile& file);
+
+    /// From now on nothing is read of an ID3 tag but its head, or all again.
+    void hide_tags(bool are_hidden) { hides_tags_ = are_hidden; }
 
     TagLib::FileName name() const override { return ""; }
 
@@ -37,9 +39,10 @@ public:
 
 private:
     SubjectFile& file_;
-    /// Whether the last ID3 tag seen is written in the way that hides where its frames begin.
-    bool is_escaped_ = false;
     bool is_open_;
+    bool hides_tags_ = false;
+    /// Whether the last read gave the head of an ID3 tag.
+    bool is_in_tag_ = false;
     long position_ = 0;
     /// What was read last, at least a page of it: TagLib reads a few bytes at a time.
     std::string page_;
