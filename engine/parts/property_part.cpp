@@ -1,7 +1,7 @@
 #include "engine/parts/property_part.h"
 
 #include "engine/items/mv_item_base.h"
-#include "engine/parts/item_name_text.h"
+#include "engine/parts/text_run_context.h"
 #include "engine/properties/item_property_reader.h"
 #include "engine/text/json_access.h"
 #include "engine/text/utf.h"
@@ -97,7 +97,7 @@ ItemPartProperty::ValueType ItemPartProperty::default_value_type(std::u16string_
 void ItemPartProperty::append_text(TextRunContext& context, const MVItemBase& item, int) const
 {
     if (!custom_format_ || value_type_ == ValueType::Default)
-        append_name_text(context, item.property_value(property_name_));
+        context.output.append(item.property_value(property_name_));
     else if (const auto value = property_raw_value(item.full_path(), property_name_))
-        append_name_text(context, formatted(*value));
+        context.output.append(formatted(*value));
 }

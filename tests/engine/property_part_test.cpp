@@ -125,6 +125,21 @@ TEST(PropertyPart, ReadsTheFileOnceForTheDisplayTextAndAnewForFormats)
     EXPECT_EQ(generated(raw, set), "7");
 }
 
+/// What stands for odd bytes of a name is a character like others in a title.
+TEST(PropertyPart, WritesATitleAsItIs)
+{
+    using namespace std::string_literals;
+    const TempFolder folder;
+    const auto path =
+        folder.write("scan.tif", "II*\0\x08\0\0\0\1\0\x0E\1\2\0\x06\0\0\0\x1A\0\0\0\0\0\0\0a\uF05Cz\0"s);
+    const auto command =
+        make_command("{'fileParts':[{'item-type':'property','property-name':'System.Title'},{'item-type':'property',"
+                     "'property-name':'System.Title','custom-format':true,'value-type':'string'}]}");
+    const std::string title = to_utf8(platform::FileProperties(path).display_text(u"System.Title").value_or(u""));
+    EXPECT_TRUE(title.empty() || title == "a\uF05Cz");
+    EXPECT_EQ(generated(command, MVItemsSet(path)), title + title);
+}
+
 TEST(DirectionMarks, AreRemoved)
 {
     EXPECT_EQ(without_direction_marks(u"\u202A1\u200E.\u202C2\u202E\u2029"), u"1\u200E.2\u2029");

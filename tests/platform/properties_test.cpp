@@ -120,6 +120,7 @@ TEST(Properties, WithoutExtensionAndThroughLinks)
     };
     EXPECT_EQ(text("song", "Title"), WITH_TAGLIB || WITH_MEDIAINFO ? "Morning Bell" : "-");
     EXPECT_EQ(text("\xFF\\photo", "Photo.CameraModel"), WITH_EXIF ? "VO-1 Sample" : "-");
+    EXPECT_EQ(text("\xFF\\photo", "FileName"), "\uFFFD\\photo");
     EXPECT_EQ(text("link.mp3", "Title"), WITH_TAGLIB || WITH_MEDIAINFO ? "Morning Bell" : "-");
     EXPECT_EQ(text("link.mp3", "Size"), "0 | 0 bytes");
 }
