@@ -7,11 +7,6 @@
 
 MirvantaNamedPipeServer::MirvantaNamedPipeServer(QObject* parent) : QObject(parent) {}
 
-MirvantaNamedPipeServer::~MirvantaNamedPipeServer()
-{
-    end_delivery();
-}
-
 std::string MirvantaNamedPipeServer::pipe_name() const
 {
     return std::string(selection_protocol::pipe_name);

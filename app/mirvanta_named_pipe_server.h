@@ -6,13 +6,12 @@
 #include <QStringList>
 
 /// Receives selections from the file manager.
-class MirvantaNamedPipeServer final : public QObject, public NamedPipeServer
+class MirvantaNamedPipeServer : public QObject, public NamedPipeServer
 {
     Q_OBJECT
 
 public:
     explicit MirvantaNamedPipeServer(QObject* parent = nullptr);
-    ~MirvantaNamedPipeServer() override;
 
     std::string pipe_name() const override;
     void message_received(const std::vector<char>& message) override;

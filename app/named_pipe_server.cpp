@@ -1,47 +1,21 @@
 #include "app/named_pipe_server.h"
 
-#include "app/incoming_message.h"
 #include "platform/debug_output.h"
 
-#include <algorithm>
-#include <cassert>
 #include <cstdio>
 #include <exception>
 #include <mutex>
-#include <optional>
-#include <span>
 #include <stdexcept>
 #include <system_error>
 #include <thread>
-#include <utility>
 
 namespace {
-
-constexpr std::size_t first_chunk = 8192, largest_chunk = 8 << 20;
 
 void log_failure(const char* call, const std::error_code& error)
 {
     std::string code(8, '\0');
     std::snprintf(code.data(), code.size() + 1, "%08x", static_cast<unsigned>(error.value()));
     platform::debug_output(std::string("NamedPipeServer error: ") + call + "; Error=0x" + code + "\n");
-}
-
-/// The connected client's whole message; empty after a failure, which has been logged.
-std::optional<IncomingMessage> read_message(platform::MessagePipe& pipe)
-{
-    IncomingMessage message(NamedPipeServer::largest_message);
-    for (std::vector<char> chunk(first_chunk);; chunk.resize(std::min(2 * chunk.size(), largest_chunk))) {
-        platform::PipeRead read = pipe.read(chunk);
-        message.append(std::span(chunk).first(read.count));
-        if (!read.error && message.size() > NamedPipeServer::largest_stream)
-            read.error = make_error_code(std::errc::message_size);
-        if (read.error) {
-            log_failure("ReadFile() failed", read.error);
-            return std::nullopt;
-        }
-        if (read.end_of_message)
-            return message;
-    }
 }
 
 }
@@ -52,19 +26,18 @@ class NamedPipeServer::Receiver
 public:
     explicit Receiver(NamedPipeServer& server) : server_(&server) {}
 
-    /// The thread: serves clients until delivery ends or the pipe can't be made.
-    void run(const std::string& name, const platform::PipePatience& patience)
+    /// Before the thread.
+    void create_pipe(const std::string& name, const platform::PipeBounds& bounds)
     {
-        std::error_code error;
-        while (const auto pipe = platform::create_message_pipe(name, patience, error)) {
-            if (!set_pipe(pipe.get()))
-                return;
-            while (serve_client(*pipe)) {
+        pipe_ = platform::create_message_pipe(name, bounds);
+    }
+
+    /// The thread: serves clients until delivery ends or the pipe can't be had.
+    void run()
+    {
+        while (open_pipe())
+            while (serve_client()) {
             }
-            if (!set_pipe(nullptr))
-                return;
-        }
-        log_failure("CreateNamedPipe() failed", error);
     }
 
     void end_delivery()
@@ -75,42 +48,40 @@ public:
             pipe_->close();
     }
 
-    bool delivers()
-    {
-        const std::lock_guard lock(mutex_);
-        return server_ != nullptr;
-    }
-
 private:
-    /// What `end_delivery` closes. False when that is over, and none is to be served any more.
-    bool set_pipe(platform::MessagePipe* pipe)
+    bool open_pipe()
     {
-        const std::lock_guard lock(mutex_);
-        pipe_ = server_ ? pipe : nullptr;
-        return server_ != nullptr;
+        const auto log = [](const std::error_code& error) { log_failure("CreateNamedPipe() failed", error); };
+        const std::error_code error = pipe_->open([&] { log(make_error_code(std::errc::address_in_use)); });
+        if (error && error != std::errc::operation_canceled)
+            log(error);
+        return !error;
     }
 
     /// False when the pipe is of no more use.
-    bool serve_client(platform::MessagePipe& pipe)
+    bool serve_client()
     {
-        if (const std::error_code error = pipe.connect()) {
+        platform::PipeMessage message;
+        if (const std::error_code error = pipe_->receive(message)) {
             if (error != std::errc::operation_canceled)
                 log_failure("ConnectNamedPipe() failed", error);
             return false;
         }
-        if (is_taken(pipe))
-            pipe.disconnect();
+        if (is_taken(message))
+            pipe_->disconnect();
         else
-            pipe.refuse();
+            pipe_->refuse();
         return true;
     }
 
-    /// Reads and delivers the client's message.
-    bool is_taken(platform::MessagePipe& pipe)
+    bool is_taken(const platform::PipeMessage& message)
     {
+        if (message.error) {
+            log_failure("ReadFile() failed", message.error);
+            return false;
+        }
         try {
-            const auto message = read_message(pipe);
-            return message && deliver(*message);
+            return deliver(message);
         } catch (const std::exception& error) {
             // Mostly a lack of memory for a large message, which the next one need not meet.
             platform::debug_output(std::string("NamedPipeServer error: message lost; ") + error.what() + "\n");
@@ -118,34 +89,30 @@ private:
         }
     }
 
-    bool deliver(const IncomingMessage& message)
+    bool deliver(const platform::PipeMessage& message)
     {
         const std::lock_guard lock(mutex_);
         if (!server_)
             return false;
         if (message.is_too_large())
-            server_->message_too_large(message.size());
+            server_->message_too_large(message.size);
         else
-            server_->message_received(message.bytes());
+            server_->message_received(message.bytes);
         return true;
     }
 
     std::mutex mutex_;
     NamedPipeServer* server_;
-    platform::MessagePipe* pipe_ = nullptr;
+    std::unique_ptr<platform::MessagePipe> pipe_;
 };
 
 NamedPipeServer::NamedPipeServer() : receiver_(std::make_shared<Receiver>(*this)) {}
 
-NamedPipeServer::~NamedPipeServer()
+void NamedPipeServer::start(const platform::PipeBounds& bounds)
 {
-    assert(!receiver_->delivers());
-}
-
-void NamedPipeServer::start(const platform::PipePatience& patience)
-{
+    receiver_->create_pipe(pipe_name(), bounds);
     try {
-        std::thread([receiver = receiver_, name = pipe_name(), patience] { receiver->run(name, patience); }).detach();
+        std::thread([receiver = receiver_] { receiver->run(); }).detach();
     } catch (const std::system_error& error) {
         throw std::runtime_error("CreateThread() failed with error " + std::to_string(error.code().value()));
     }

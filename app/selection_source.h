@@ -40,5 +40,5 @@ signals:
 private:
     PathProbe probe_;
     SelectionIntake intake_;
-    MirvantaNamedPipeServer pipe_server_;
+    Serving<MirvantaNamedPipeServer> pipe_server_;
 };

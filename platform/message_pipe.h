@@ -2,10 +2,11 @@
 
 #include <chrono>
 #include <cstddef>
+#include <functional>
 #include <memory>
-#include <span>
 #include <string_view>
 #include <system_error>
+#include <vector>
 
 /// A pipe with a name, through which the other programs of the same user send messages to the one that owns the name.
 /// A connection carries one message and no reply; the message ends where the client ends writing.
@@ -14,17 +15,24 @@
 /// among the temporary files. Errors are the system's error numbers.
 namespace platform {
 
-/// What a read has come to.
-struct PipeRead {
-    std::size_t count = 0;       ///< bytes read
-    bool end_of_message = false; ///< else there is more, or an error
-    std::error_code error;
-};
-
-/// How long the owner waits for a client, so that none keeps it from the others.
-struct PipePatience {
+/// What a pipe's owner puts up with, so that no client keeps it from the others.
+struct PipeBounds {
     std::chrono::milliseconds silence = std::chrono::seconds(10); ///< in which nothing comes
     std::chrono::milliseconds message = std::chrono::seconds(30); ///< until the whole message has come
+    std::size_t clients = 16;                                     ///< at once; further ones wait
+    std::size_t largest_message = 8 << 20; ///< bytes that are kept; of a larger message its size alone is told
+    std::size_t largest_stream = 64 << 20; ///< bytes after which a client that doesn't end is dropped
+};
+
+/// One client's message that has come to its end, or as far as it ever will.
+struct PipeMessage {
+    std::vector<char> bytes; ///< empty when it is too large
+    std::size_t size = 0;    ///< of all that has come, in bytes
+    /// Why it isn't whole: `std::errc::timed_out` or `message_size` when a bound is passed, `not_enough_memory`, or
+    /// what the system tells.
+    std::error_code error;
+
+    bool is_too_large() const { return bytes.size() < size; }
 };
 
 /// The owner's end; its name is free again when it is closed, the object is gone, or the process. But for `close`,
@@ -36,40 +44,39 @@ public:
     MessagePipe(const MessagePipe&) = delete;
     MessagePipe& operator=(const MessagePipe&) = delete;
 
-    /// Waits for the next client, in the order of their coming. Those of other users are dropped; while the system
-    /// has no room for a client, it waits on. `std::errc::operation_canceled` when the pipe is closed.
-    virtual std::error_code connect() = 0;
+    /// Takes the name and begins to listen; what a crashed owner left behind is taken over. While another program
+    /// owns the name it waits for its turn, which `waits` hears of once, before. `std::errc::operation_canceled` when
+    /// the pipe is closed, `std::errc::address_in_use` when another program listens there that doesn't own the name.
+    virtual std::error_code open(const std::function<void()>& waits) = 0;
 
-    /// Fills `buffer` from the client's message. When it is full, waits to see whether the message ends there.
-    /// `std::errc::timed_out` when the patience that the pipe was made with is over.
-    virtual PipeRead read(std::span<char> buffer) = 0;
+    /// Waits for the next message to come to its end; clients send theirs at the same time. Those of other users are
+    /// dropped; while the system has no room for a client, that one waits on. `std::errc::operation_canceled` when
+    /// the pipe is closed, and then senders whose messages are on their way are refused.
+    virtual std::error_code receive(PipeMessage& message) = 0;
 
-    /// Ends the connection; the sender takes its message for received.
+    /// Ends the connection that the last message came by; its sender takes it for received.
     virtual void disconnect() = 0;
 
-    /// Ends the connection; the sender learns that its message wasn't taken.
+    /// Ends that connection; the sender learns that its message wasn't taken.
     virtual void refuse() = 0;
 
-    /// Gives the name back: from here on senders are refused, and another program may have the name. Ends a `connect`
-    /// in progress, but not a `read`. Any thread.
+    /// Gives the name, or the turn for it, back for good: from here on senders are refused, and another program may
+    /// have the name. Ends a `receive` in progress, and an `open` once its turn comes. Any thread.
     virtual void close() = 0;
 
 protected:
     MessagePipe() = default;
 };
 
-/// Takes the name, which holds no slash, and begins to listen. Null with `error` when it can't be had:
-/// `std::errc::address_in_use` when another program owns it or still listens there. What a crashed owner left behind
-/// is taken over.
-std::unique_ptr<MessagePipe> create_message_pipe(std::string_view name, const PipePatience& patience,
-                                                 std::error_code& error);
+/// A pipe that isn't open yet. A good `name` holds no slash.
+std::unique_ptr<MessagePipe> create_message_pipe(std::string_view name, const PipeBounds& bounds = {});
 
 /// Sends a message and waits until the owner has taken it. `std::errc::connection_refused` when nobody listens,
 /// `std::errc::connection_reset` or `std::errc::broken_pipe` when the owner drops it, `std::errc::timed_out` when the
 /// owner takes nothing for `patience`.
 std::error_code send_message(std::string_view name, std::string_view message, std::chrono::milliseconds patience);
 
-/// Whether a program owns the name; it may not listen yet.
+/// Whether a program owns the name, or waits for its turn and will own it next; it may not listen yet.
 bool is_pipe_owned(std::string_view name);
 
 /// For the one of several programs that starts the pipe's owner: null when another holds it, or it can't be had.

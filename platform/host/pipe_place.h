@@ -4,6 +4,7 @@
 
 #include <sys/un.h>
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -12,6 +13,9 @@ namespace platform {
 
 /// The error of the system call that has just failed.
 std::error_code last_error();
+
+/// The endings of a pipe's lock files: of its owner's, and of who starts that one.
+inline constexpr std::string_view owner_ending = ".lock", start_ending = ".start";
 
 /// Where a message pipe's socket and locks lie. Any length of the folder's path will do, and what is checked about
 /// the folder holds for each use, since the folder stays open.
@@ -31,18 +35,29 @@ public:
     /// with errno, when that fails: EAGAIN when another program holds the lock.
     Descriptor try_lock(std::string_view ending) const;
 
-    /// Whether another program holds that lock.
+    /// A place in the line for that file's lock, until the descriptor is closed; `own` comes to its head. None, with
+    /// errno, when that fails.
+    Descriptor stand_in_line(std::string_view ending) const;
+
+    /// False when the file has been cleared away: another program would lock a new one.
+    bool is_current(const Descriptor& lock, std::string_view ending) const;
+
+    /// Whether another program holds that lock or stands in its line.
     bool is_locked(std::string_view ending) const;
 
 private:
-    Descriptor open_lock(const std::string& file) const;
+    Descriptor open_lock(std::string_view ending) const;
 
     std::string name_;
     Descriptor folder_;
     std::error_code error_;
 };
 
-/// Gives a lock back before its descriptor is closed. Any thread.
+/// Takes the lock that a place in the line is for. While another program holds it, waits, once `waits` has been
+/// called. False with errno when it can't be had.
+bool own(const Descriptor& place_in_line, const std::function<void()>& waits);
+
+/// Gives a lock, and a place in its line, back before its descriptor is closed. Any thread.
 void unlock(const Descriptor& lock);
 
 }

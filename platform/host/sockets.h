@@ -19,8 +19,4 @@ bool connect_to(const Descriptor& socket, const sockaddr_un& address);
 /// Bytes received, 0 at the end, -1 at a failure: ETIMEDOUT when nothing has come in time.
 ssize_t receive(const Descriptor& socket, std::span<char> buffer, int flags);
 
-/// The same with a time of its own: ETIMEDOUT when nothing has come before `end`.
-ssize_t receive_before(std::chrono::steady_clock::time_point end, const Descriptor& socket, std::span<char> buffer,
-                       int flags);
-
 }

@@ -14,7 +14,7 @@ namespace {
 std::string outcome(const QByteArray& message)
 {
     const DebugLog log;
-    MirvantaNamedPipeServer server;
+    Serving<MirvantaNamedPipeServer> server;
     QString text;
     QObject::connect(
         &server, &MirvantaNamedPipeServer::context_menu_selected,
@@ -66,7 +66,7 @@ TEST(SelectionMessage, EveryFileOfTheHostCanBeSelected)
         for (const char16_t unit : path)
             message += "\\u" + QByteArray::number(unit, 16).rightJustified(4, '0');
         const DebugLog log;
-        MirvantaNamedPipeServer server;
+        Serving<MirvantaNamedPipeServer> server;
         MVItemsSet selection;
         QObject::connect(&server, &MirvantaNamedPipeServer::context_menu_selected,
                          [&](int, const QStringList& paths) { enter_selection(selection, paths); });

@@ -24,6 +24,8 @@
 
 using namespace std::chrono_literals;
 using platform::create_message_pipe;
+using platform::MessagePipe;
+using platform::PipeBounds;
 using platform::send_message;
 
 namespace {
@@ -36,10 +38,21 @@ class MessagePipeTest : public testing::Test
 protected:
     MessagePipeTest() { chmod(folder_.host().c_str(), 0755); }
 
-    std::unique_ptr<platform::MessagePipe> create(std::chrono::milliseconds silence = patience,
-                                                  std::chrono::milliseconds message = patience)
+    /// Null, with `error_`, when it can't be opened; nobody else may own it.
+    std::unique_ptr<MessagePipe> create(const PipeBounds& bounds = {patience, patience})
     {
-        return create_message_pipe("pipe", {silence, message}, error_);
+        auto pipe = create_message_pipe("pipe", bounds);
+        error_ = pipe->open([] { FAIL() << "the name has an owner"; });
+        return error_ ? nullptr : std::move(pipe);
+    }
+
+    /// What `open` comes to, once it waits for the name's owner.
+    static std::future<std::error_code> opening(MessagePipe& pipe)
+    {
+        std::promise<void> waits;
+        auto opened = std::async(std::launch::async, [&] { return pipe.open([&] { waits.set_value(); }); });
+        waits.get_future().wait();
+        return opened;
     }
 
     static std::future<std::error_code> sending(std::string message)
@@ -47,34 +60,39 @@ protected:
         return std::async(std::launch::async, [=] { return send_message("pipe", message, patience); });
     }
 
-    /// What is read with a buffer of `size` bytes: the pieces' lengths, and how it ended.
-    std::string pieces(platform::MessagePipe& pipe, std::size_t size)
+    /// The next message, or its size, and what is wrong with it; or the pipe's error.
+    static std::string receive(MessagePipe& pipe)
     {
-        std::string text;
-        std::vector<char> buffer(size);
-        for (;;) {
-            const platform::PipeRead read = pipe.read(buffer);
-            text += std::to_string(read.count);
-            if (read.error || read.end_of_message)
-                return text + (read.error ? " " + read.error.message() : " end");
-            text += ' ';
-        }
+        platform::PipeMessage message;
+        if (const std::error_code error = pipe.receive(message))
+            return error.message();
+        const std::string text = message.is_too_large() ? std::to_string(message.size)
+                                                        : std::string(message.bytes.begin(), message.bytes.end());
+        return message.error ? text + ' ' + message.error.message() : text;
     }
 
-    /// What a new pipe reads when "x" is sent, or why there is none.
+    /// What the pipe receives when "x" is sent.
+    static std::string exchange(MessagePipe& pipe)
+    {
+        const auto sent = sending("x");
+        const std::string received = receive(pipe);
+        pipe.disconnect();
+        return received;
+    }
+
+    /// The same with a new pipe, or why there is none.
     std::string exchange()
     {
         const auto pipe = create();
-        if (!pipe)
-            return error_.message();
-        const auto sent = sending("x");
-        EXPECT_FALSE(pipe->connect());
-        const std::string read = pieces(*pipe, 8);
-        pipe->disconnect();
-        return read;
+        return pipe ? exchange(*pipe) : error_.message();
     }
 
-    int connect_client() const { return raw_client(folder_.host("pipe")); }
+    int connect_client(std::string_view message = {}) const
+    {
+        const int client = raw_client(folder_.host("pipe"));
+        EXPECT_EQ(write(client, message.data(), message.size()), static_cast<ssize_t>(message.size()));
+        return client;
+    }
 
     TempFolder folder_;
     ScopedVariable session_{"XDG_RUNTIME_DIR", folder_.host()};
@@ -83,60 +101,65 @@ protected:
 
 }
 
-TEST_F(MessagePipeTest, ReadsUpToTheEndOfEachMessage)
+TEST_F(MessagePipeTest, MessagesArriveWhole)
 {
-    const auto pipe = create();
-    for (const auto& [size, expected] : std::initializer_list<std::pair<std::size_t, const char*>>{
-             {0, "0 end"}, {7, "7 end"}, {8, "8 end"}, {9, "8 1 end"}, {16, "8 8 end"}}) {
-        auto sent = sending(std::string(size, 'x'));
-        ASSERT_FALSE(pipe->connect());
-        EXPECT_EQ(pieces(*pipe, 8), expected);
+    constexpr std::size_t largest = 100'000, longest = 300'000;
+    const auto pipe = create({patience, patience, 16, largest, longest});
+    for (const std::size_t size : {std::size_t(0), std::size_t(7), largest, largest + 1, longest, longest + 1}) {
+        const std::string text(size, 'x');
+        auto sent = sending(text);
+        const std::string expected = size <= largest ? text : std::to_string(size);
+        EXPECT_EQ(receive(*pipe), size <= longest ? expected : expected + " Message too long");
         pipe->disconnect();
         EXPECT_FALSE(sent.get());
     }
 }
 
-TEST_F(MessagePipeTest, MessageInDripsIsOnePiece)
+TEST_F(MessagePipeTest, ClientsAreServedAtTheSameTime)
 {
     const auto pipe = create();
-    const int client = connect_client();
-    ASSERT_FALSE(pipe->connect());
-    auto text = std::async(std::launch::async, [&] { return pieces(*pipe, 4); });
-    for (int i = 0; i < 6; ++i) {
-        std::this_thread::sleep_for(5ms);
-        ASSERT_EQ(write(client, "x", 1), 1);
-    }
-    close(client);
-    EXPECT_EQ(text.get(), "4 2 end");
+    const int silent = connect_client(), first = connect_client("ab"), second = connect_client("1");
+    EXPECT_EQ(exchange(*pipe), "x");
+    EXPECT_EQ(write(second, "2", 1), 1);
+    close(second);
+    EXPECT_EQ(receive(*pipe), "12");
+    EXPECT_EQ(write(first, "c", 1), 1);
+    EXPECT_EQ(exchange(*pipe), "x");
+    close(first);
+    EXPECT_EQ(receive(*pipe), "abc");
+    close(silent);
+    EXPECT_EQ(receive(*pipe), "");
 }
 
-TEST_F(MessagePipeTest, SilentClientsAndOwnersTimeOut)
+TEST_F(MessagePipeTest, ClientsBeyondTheBoundWait)
 {
-    const auto pipe = create(50ms);
-    for (const std::string_view start : {"", "ab", "abcd"}) {
-        const int client = connect_client();
-        ASSERT_EQ(write(client, start.data(), start.size()), static_cast<ssize_t>(start.size()));
-        ASSERT_FALSE(pipe->connect());
-        EXPECT_EQ(pieces(*pipe, 4), std::to_string(start.size()) + " Connection timed out");
-        pipe->disconnect();
-        close(client);
-    }
+    const auto pipe = create({50ms, patience, 1});
+    const int silent = connect_client("a"), ready = connect_client("x");
+    shutdown(ready, SHUT_WR);
+    EXPECT_EQ(receive(*pipe), "a Connection timed out");
+    EXPECT_EQ(receive(*pipe), "x");
+    close(silent);
+    close(ready);
+}
+
+TEST_F(MessagePipeTest, OwnersTimeOut)
+{
+    const auto pipe = create();
     EXPECT_EQ(send_message("pipe", std::string(8 << 20, 'x'), 50ms), std::errc::timed_out);
     EXPECT_EQ(send_message("pipe", "", 50ms), std::errc::timed_out);
 }
 
 TEST_F(MessagePipeTest, MessageHasATimeInAll)
 {
-    const auto pipe = create(patience, 100ms);
+    const auto pipe = create({patience, 100ms});
     const int client = connect_client();
-    ASSERT_FALSE(pipe->connect());
     std::atomic<bool> is_over = false;
     auto drips = std::async(std::launch::async, [&] {
         for (const auto end = std::chrono::steady_clock::now() + 30s;
              !is_over && std::chrono::steady_clock::now() < end; std::this_thread::sleep_for(5ms))
             send(client, "x", 1, MSG_NOSIGNAL);
     });
-    EXPECT_TRUE(pieces(*pipe, 1 << 20).ends_with(" Connection timed out"));
+    EXPECT_TRUE(receive(*pipe).ends_with(" Connection timed out"));
     is_over = true;
     drips.get();
     close(client);
@@ -144,15 +167,14 @@ TEST_F(MessagePipeTest, MessageHasATimeInAll)
 
 TEST_F(MessagePipeTest, RefusedOrDroppedMessageIsAnErrorOfTheSender)
 {
-    const auto pipe = create();
+    const auto pipe = create({patience, patience, 16, 8, 16});
     auto refused = sending("x");
-    ASSERT_FALSE(pipe->connect());
-    EXPECT_EQ(pieces(*pipe, 8), "1 end");
+    EXPECT_EQ(receive(*pipe), "x");
     pipe->refuse();
     EXPECT_EQ(refused.get(), std::errc::connection_reset);
 
     auto dropped = sending(std::string(8 << 20, 'x'));
-    ASSERT_FALSE(pipe->connect());
+    EXPECT_TRUE(receive(*pipe).ends_with(" Message too long"));
     pipe->disconnect();
     const std::error_code error = dropped.get();
     EXPECT_TRUE(error == std::errc::broken_pipe || error == std::errc::connection_reset) << error;
@@ -161,40 +183,63 @@ TEST_F(MessagePipeTest, RefusedOrDroppedMessageIsAnErrorOfTheSender)
 TEST_F(MessagePipeTest, ClosedPipeGivesItsNameBack)
 {
     const auto first = create();
-    auto connected = std::async(std::launch::async, [&] { return first->connect(); });
-    std::this_thread::sleep_for(20ms);
+    const int started = connect_client("a");
+    EXPECT_EQ(exchange(*first), "x");
+    auto received = std::async(std::launch::async, [&] { return receive(*first); });
     first->close();
-    EXPECT_EQ(connected.get(), std::errc::operation_canceled);
+    EXPECT_EQ(received.get(), "Operation canceled");
+    char refusal = 0;
+    EXPECT_EQ(read(started, &refusal, 1), 1);
+    close(started);
     EXPECT_FALSE(platform::is_pipe_owned("pipe"));
     EXPECT_EQ(send_message("pipe", "x", patience), std::errc::connection_refused);
-    EXPECT_EQ(exchange(), "1 end");
+    EXPECT_EQ(exchange(), "x");
+    EXPECT_EQ(first->open([] {}), std::errc::operation_canceled);
 }
 
 TEST_F(MessagePipeTest, ClientsThatWaitAtTheCloseAreNotTaken)
 {
     auto pipe = create();
-    auto sent = sending("x");
-    std::this_thread::sleep_for(20ms);
+    const int client = connect_client("x");
     pipe->close();
-    EXPECT_EQ(pipe->connect(), std::errc::operation_canceled);
+    EXPECT_EQ(receive(*pipe), "Operation canceled");
     pipe.reset();
-    EXPECT_TRUE(sent.get());
+    char nothing = 0;
+    EXPECT_EQ(read(client, &nothing, 1), -1);
+    close(client);
+}
+
+TEST_F(MessagePipeTest, NamePassesFromOneToTheNext)
+{
+    auto first = create();
+    const auto second = create_message_pipe("pipe"), third = create_message_pipe("pipe");
+    auto second_opened = opening(*second), third_opened = opening(*third);
+    EXPECT_EQ(exchange(*first), "x");
+    third->close();
+    std::filesystem::remove(folder_.host("pipe.lock"));
+    first.reset();
+    EXPECT_FALSE(second_opened.get());
+    EXPECT_TRUE(platform::is_pipe_owned("pipe"));
+    EXPECT_EQ(exchange(*second), "x");
+    second->close();
+    EXPECT_EQ(third_opened.get(), std::errc::operation_canceled);
+    EXPECT_FALSE(platform::is_pipe_owned("pipe"));
 }
 
 #ifndef __SANITIZE_ADDRESS__ // the sanitizer looks at memory through descriptors of its own
 TEST_F(MessagePipeTest, FullTableOfFilesKeepsTheClientsWaiting)
 {
     const auto pipe = create();
-    const int client = connect_client();
+    const int client = connect_client("x");
     rlimit before{};
     getrlimit(RLIMIT_NOFILE, &before);
     const rlimit none{0, before.rlim_max};
     setrlimit(RLIMIT_NOFILE, &none);
-    auto connected = std::async(std::launch::async, [&] { return pipe->connect(); });
-    EXPECT_EQ(connected.wait_for(50ms), std::future_status::timeout);
+    auto received = std::async(std::launch::async, [&] { return receive(*pipe); });
+    EXPECT_EQ(received.wait_for(50ms), std::future_status::timeout);
     setrlimit(RLIMIT_NOFILE, &before);
-    EXPECT_FALSE(connected.get());
     close(client);
+    EXPECT_EQ(received.get(), "x");
 }
 #endif
 
@@ -205,26 +250,20 @@ TEST_F(MessagePipeTest, NameHasOneOwner)
     auto first = create();
     ASSERT_TRUE(first);
     EXPECT_TRUE(platform::is_pipe_owned("pipe"));
-    EXPECT_FALSE(create());
-    EXPECT_EQ(error_, std::errc::address_in_use);
-    EXPECT_TRUE(create_message_pipe("other", {}, error_));
+    EXPECT_FALSE(create_message_pipe("other")->open([] {}));
+    EXPECT_EQ(create_message_pipe("../pipe")->open([] {}), std::errc::invalid_argument);
 
     // A lock that was cleared away can be had again, but not the name.
     std::filesystem::remove(folder_.host("pipe.lock"));
     EXPECT_FALSE(create());
     EXPECT_EQ(error_, std::errc::address_in_use);
-    EXPECT_FALSE(first->connect()); // to see who was there
-    EXPECT_EQ(pieces(*first, 8), "0 end");
+    EXPECT_EQ(receive(*first), "") << "to see who was there";
 
     // Its end leaves the socket behind, as a crash does.
     first.reset();
     EXPECT_TRUE(std::filesystem::exists(folder_.host("pipe")));
     EXPECT_EQ(send_message("pipe", "x", patience), std::errc::connection_refused);
-    const auto second = create();
-    ASSERT_TRUE(second) << error_;
-    const int client = connect_client();
-    EXPECT_FALSE(second->connect());
-    close(client);
+    EXPECT_EQ(exchange(), "x");
 
     auto start = platform::try_lock_start("pipe");
     EXPECT_TRUE(start);
@@ -236,8 +275,9 @@ TEST_F(MessagePipeTest, NameHasOneOwner)
 TEST_F(MessagePipeTest, StartedProgramsInheritNothing)
 {
     const auto pipe = create();
-    const int client = connect_client();
-    ASSERT_FALSE(pipe->connect());
+    const int client = connect_client("x");
+    shutdown(client, SHUT_WR);
+    EXPECT_EQ(receive(*pipe), "x");
     const auto start = platform::try_lock_start("pipe");
     int sockets = 0;
     for (const auto& entry : std::filesystem::directory_iterator("/proc/self/fd")) {
@@ -270,7 +310,7 @@ TEST_F(MessagePipeTest, PlaceIsTheUsersOwn)
              {"real", own},
              {std::nullopt, own}}) {
         const ScopedVariable variable("XDG_RUNTIME_DIR", session);
-        EXPECT_EQ(exchange(), "1 end") << session.value_or("none");
+        EXPECT_EQ(exchange(), "x") << session.value_or("none");
 
         struct stat status {
         };
@@ -287,7 +327,6 @@ TEST_F(MessagePipeTest, PlaceIsTheUsersOwn)
     std::filesystem::remove_all(folder_.host(own));
     folder_.make_link(own, folder_.host("real"));
     EXPECT_EQ(exchange(), "Not a directory");
-    EXPECT_EQ(create_message_pipe("../pipe", {}, error_), nullptr);
 }
 
 TEST_F(MessagePipeTest, OtherUsersAreDropped)
@@ -300,18 +339,17 @@ TEST_F(MessagePipeTest, OtherUsersAreDropped)
     if (child == 0) {
         if (setuid(65534) != 0)
             _exit(2);
-        const int client = connect_client();
+        const int client = raw_client(folder_.host("pipe"));
         // Refused when nothing can be read but the end.
         char nothing = 0;
         _exit(client >= 0 && read(client, &nothing, 1) == 0 ? 0 : 1);
     }
-    auto connected = std::async(std::launch::async, [&] { return pipe->connect(); });
+    auto received = std::async(std::launch::async, [&] { return receive(*pipe); });
     int status = 0;
     ASSERT_EQ(waitpid(child, &status, 0), child);
     EXPECT_EQ(status, 0);
     auto sent = sending("own");
-    EXPECT_FALSE(connected.get());
-    EXPECT_EQ(pieces(*pipe, 8), "3 end");
+    EXPECT_EQ(received.get(), "own");
     pipe->disconnect();
     EXPECT_FALSE(sent.get());
 }

@@ -44,7 +44,7 @@ int main(int argc, char* argv[])
     const std::string most = variable("LISTENER_MOST");
     MVItemsSet selection;
     SelectionIntake intake;
-    MirvantaNamedPipeServer server;
+    Serving<MirvantaNamedPipeServer> server;
     int count = 0;
     QObject::connect(&server, &MirvantaNamedPipeServer::context_menu_selected, &intake, &SelectionIntake::take);
     QObject::connect(&intake, &SelectionIntake::selection_ready, [&](int index, const QStringList& paths) {

@@ -203,6 +203,21 @@ class End(SelectTest):
                 client.join()
             self.assertEqual(listener.returncode, 0, errors[-3000:])
 
+    def test_next_one_takes_over(self):
+        self.install_application("exit 3\n")  # a further one would be told of
+        environment = self.environment | {"LISTENER_MOST": "1"}
+        first = subprocess.Popen([LISTENER], env=environment, stderr=subprocess.PIPE)
+        self.wait_until(lambda: os.path.exists(self.runtime + PIPE))
+        for number in range(10):
+            second = subprocess.Popen([LISTENER], env=environment, stderr=subprocess.PIPE)
+            self.assertIn(b"CreateNamedPipe() failed", second.stderr.readline())
+            self.check_selected("--index", str(number), ".")
+            first.communicate(timeout=HANG)
+            self.assertEqual(first.returncode, 0)
+            first = second
+        self.check_selected(".")
+        first.communicate(timeout=HANG)
+
 
 if __name__ == "__main__":
     unittest.main()

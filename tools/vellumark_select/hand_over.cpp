@@ -19,7 +19,7 @@ namespace {
 using selection_protocol::pipe_name;
 
 constexpr auto time_to_listen = 10s;
-/// Longer than the application waits for a client that is slow and stands before us.
+/// Longer than the application waits for clients that are slow and stand before us.
 constexpr auto time_to_read = 40s;
 
 /// It closes, or had to drop us: the next attempt may find it, or another, at its work.
