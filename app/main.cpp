@@ -1,3 +1,4 @@
+#include "app/application.h"
 #include "app/editors.h"
 #include "app/exit_deadline.h"
 #include "app/mirvanta_app.h"
@@ -5,15 +6,13 @@
 #include "ui/clipboard/system_clipboard.h"
 #include "ui/clipboard/window_system_choice.h"
 
-#include <QApplication>
-
 #include <chrono>
 
 int main(int argc, char* argv[])
 {
     Program::prepare();
     const WindowSystemChoice window_system;
-    QApplication application(argc, argv);
+    Application application(argc, argv);
     window_system.forget();
     const Program program(application);
     SystemClipboard clipboard;
