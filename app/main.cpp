@@ -1,5 +1,6 @@
 #include "app/application.h"
 #include "app/editors.h"
+#include "app/end_requests.h"
 #include "app/exit_deadline.h"
 #include "app/mirvanta_app.h"
 #include "app/program.h"
@@ -17,6 +18,7 @@ int main(int argc, char* argv[])
     const Program program(application);
     SystemClipboard clipboard;
     MirvantaApp window(editors_with(clipboard));
+    follow_end_requests(window);
     // The window is hidden already when a comparison of checksums ends the run.
     QObject::connect(&window, &QDialog::finished, &application, &QCoreApplication::quit);
     window.show();

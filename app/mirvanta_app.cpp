@@ -99,9 +99,14 @@ void MirvantaApp::close_with_accept()
 void MirvantaApp::done(int result)
 {
     ui_->finish_edits();
-    window_state::save(*this, *ui_, lists_);
+    keep_state();
     source_.end();
     QDialog::done(result);
+}
+
+void MirvantaApp::keep_state()
+{
+    window_state::save(*this, *ui_, lists_);
 }
 
 void MirvantaApp::on_ok()

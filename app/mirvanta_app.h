@@ -64,6 +64,9 @@ public:
     /// However the dialog is left, the window's state is kept.
     void done(int result) override;
 
+    /// Stores the window's state, as for its end.
+    void keep_state();
+
 public slots:
     /// Saves what the user wants saved and runs the current command; the dialog then closes if nothing speaks
     /// against.

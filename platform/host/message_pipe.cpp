@@ -73,7 +73,7 @@ private:
     /// Until there may be something to do.
     void wait()
     {
-        // Its end is told in any case.
+        // Without room only the end of listening is told.
         polled_.assign({{listener_.socket(), static_cast<short>(has_room() ? POLLIN : 0), 0}});
         auto end = Clock::time_point::max();
         for (const PipeClient& client : clients_) {

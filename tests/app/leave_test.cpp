@@ -1,3 +1,4 @@
+#include "app/end_requests.h"
 #include "app/exit_deadline.h"
 #include "app_test.h"
 #include "box_answer.h"
@@ -13,8 +14,11 @@
 #include <QTest>
 #include <QTimer>
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <chrono>
+#include <csignal>
 #include <filesystem>
 #include <functional>
 #include <thread>
@@ -173,9 +177,17 @@ TEST_F(AppTest, StaysWhenTheSaveOnLeavingIsRefused)
 TEST_F(AppTest, KeepsTheWindowsStateHoweverItIsLeft)
 {
     store("A, B, More", "L, M");
-    const std::function<void()> leaves[] = {[this] { press("OK"); }, [this] { press("Cancel"); },
+    const std::function<void()> leaves[] = {[this] { press("OK"); },
+                                            [this] { press("Cancel"); },
                                             [this] { QTest::keyClick(app.get(), Qt::Key_Escape); },
-                                            [this] { app->close(); }, [this] { app->close_with_accept(); }};
+                                            [this] { app->close(); },
+                                            [this] { app->close_with_accept(); },
+                                            [this] {
+                                                follow_end_requests(*app);
+                                                raise(SIGTERM);
+                                                EXPECT_TRUE(becomes([this] { return !app->isVisible(); }));
+                                                alarm(0);
+                                            }};
     for (const auto& leave : leaves) {
         QSettings().clear();
         open_again();

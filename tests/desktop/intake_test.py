@@ -4,7 +4,7 @@ import os
 import unittest
 
 import accessibility
-from desktop import Desktop
+from desktop import HANG, Desktop
 from program import NOT_SHOWN, TITLE, ProgramTest
 
 FOLDER_COMMAND = "Extract Folder"  # the only one that says whether the selection is a folder
@@ -45,6 +45,16 @@ class Intake(ProgramTest):
         self.assertEqual(self.desktop.windows(TITLE), [self.program.window])
         self.program.press("Cancel")
         self.desktop.wait_for_no_window(TITLE)
+
+    def test_next_window_takes_over(self):
+        self.program.start()
+        first = self.program.process
+        self.program.start()
+        first.terminate()
+        self.assertEqual(first.wait(HANG), 0)
+        self.select("--index", "2", self.file)
+        self.wait_for_selection(2, self.file)
+        self.assertEqual(self.desktop.windows(TITLE), [self.program.window])
 
     def test_window_comes_to_the_front(self):
         self.program.start()
@@ -89,7 +99,7 @@ class Window(ProgramTest):
         self.desktop.drag((x, y), (x + 80, y))
         state = self.state()
         self.assertGreater(state[1], x + 40)
-        self.program.press("OK")
+        self.program.process.terminate()
         self.check_end()
 
         self.program.start()
