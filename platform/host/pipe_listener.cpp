@@ -68,7 +68,9 @@ std::error_code accept_error()
 std::error_code PipeListener::open(const std::function<void()>& waits)
 {
     keep(listener_, Descriptor());
-    std::error_code error = take_name(waits);
+    std::error_code error;
+    if (!is_closed_)
+        error = take_name(waits);
     if (is_closed_)
         error = make_error_code(std::errc::operation_canceled);
     if (error) {
