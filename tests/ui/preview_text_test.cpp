@@ -64,6 +64,7 @@ const std::vector<QString> texts{
     QString(whole + 1, u'z'),
     pairs(20'000, false),
     pairs(20'000, true),
+    QString(600, u'x') + QString(600, u'\u0e44') + "\n" + QString(30'000, u'x') + QString(600, u'\u0e44'),
 };
 
 PreviewTextEdit& edit_with(const QString& text)
@@ -109,13 +110,31 @@ TEST(TextPieces, EveryPlaceLeadsBackIntoTheText)
 
 TEST(TextPieces, FoldsOnlyWhatTakesTooLongToPaint)
 {
-    using Case = std::array<int, 3>;
-    const auto folded = [](int length) { return (length - 1) / int{TextPieces::fold} + 1; };
-    for (const auto& [lines, units, expected] :
-         {Case{1, 5'000, 1}, Case{1, int{whole}, 1}, Case{1, int{whole} + 1, folded(whole + 1)},
-          Case{10'000, 500, 10'000}, Case{15, 2'000, 15}, Case{200, 2'000, 16 + 184 * folded(2'000)},
-          Case{1, 500'000, folded(500'000)}}) {
-        const Shown all = shown((QString(units, u'x') + u'\n').repeated(lines), 1'000, 100'000);
+    struct Case {
+        int lines, units, expected;
+        char16_t unit = u'x';
+    };
+
+    constexpr int fold{TextPieces::fold}, slow_fold{TextPieces::slow_fold};
+    constexpr int slow_whole = slow_fold + TextPieces::room / TextPieces::slow_cost;
+    constexpr char16_t thai = u'\u0e44';
+    const auto folded = [](int length, int piece) { return (length - 1) / piece + 1; };
+    const std::vector<Case> cases{
+        {1, 5'000, 1},
+        {1, int{whole}, 1},
+        {1, int{whole} + 1, folded(whole + 1, fold)},
+        {10'000, 500, 10'000},
+        {15, 2'000, 15},
+        {200, 2'000, 16 + 184 * folded(2'000, fold)},
+        {1, 500'000, folded(500'000, fold)},
+        {1, slow_whole, 1, thai},
+        {1, slow_whole + 1, folded(slow_whole + 1, slow_fold), thai},
+        {10'000, 250, 10'000, thai},
+        {200, 1'280, 6 + 194 * folded(1'280, slow_fold), thai},
+        {10'000, 500, 10'000, u'\u2026'},
+    };
+    for (const auto& [lines, units, expected, unit] : cases) {
+        const Shown all = shown((QString(units, unit) + u'\n').repeated(lines), 1'000, 100'000);
         const QStringList paragraphs = all.text.split(u'\n');
         EXPECT_EQ(paragraphs.size() - 1, expected) << lines << " of " << units;
         qsizetype place = 0, folds = 0;

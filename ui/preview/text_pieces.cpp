@@ -22,6 +22,18 @@ qsizetype line_length(QStringView rest, qsizetype most)
     return std::ranges::find_if(begin, ends_line) - begin.begin();
 }
 
+/// Scripts whose letters join, combine or come from several fonts, and surrogates. General punctuation and symbols
+/// are not among them.
+bool is_of_slow_script(QChar unit)
+{
+    return unit >= QChar(0x590) && (unit < QChar(0x1e00) || unit >= QChar(0x2e80));
+}
+
+bool is_slow(QStringView line)
+{
+    return line.size() > TextPieces::slow_fold && std::ranges::any_of(line, is_of_slow_script);
+}
+
 }
 
 QString TextPieces::next(qsizetype pieces, qsizetype units)
@@ -37,16 +49,18 @@ QString TextPieces::next(qsizetype pieces, qsizetype units)
 qsizetype TextPieces::piece_length(QStringView rest)
 {
     const bool continues = folding_;
-    const qsizetype most = continues ? fold : fold + room_;
-    const qsizetype length = line_length(rest, most + 1);
-    folding_ = length > most;
+    const qsizetype room_left = continues ? 0 : room_;
+    const qsizetype length = line_length(rest, fold + room_left + 1);
+    const bool slow = is_slow(rest.first(length));
+    const qsizetype cost = slow ? slow_cost : 1, cut = slow ? slow_fold : fold;
+    folding_ = length > cut + room_left / cost;
     // A short line makes room again, but not the end of a folded one, so that lines alike stay folded.
     if (!folding_ && !continues)
-        room_ = std::min(room, room_ + fold - length);
+        room_ = std::min(room, room_ + cost * (cut - length));
     if (!folding_)
         return length;
-    const bool cuts_pair = rest[fold - 1].isHighSurrogate() && rest[fold].isLowSurrogate();
-    return fold - (cuts_pair ? 1 : 0);
+    const bool cuts_pair = rest[cut - 1].isHighSurrogate() && rest[cut].isLowSurrogate();
+    return cut - (cuts_pair ? 1 : 0);
 }
 
 void TextPieces::append_piece(QString& shown)

@@ -13,8 +13,12 @@ class TextPieces
 public:
     /// A line is folded only when it has more than `fold` units and the lines before it left no room for it: any `n`
     /// pieces in a row have at most `room + n * fold` units. A text edit lays out and paints all of a line, however
-    /// little of it can be seen, and for a selected mix of scripts takes up to 1 us a unit.
+    /// little of it can be seen.
     static constexpr qsizetype fold = 512, room = 24'576;
+    /// The same for a line with any unit of a script that takes longer than the European ones: a selected mix of
+    /// scripts takes some 2 us a unit on a slow machine, five times as long. It shares the room, where each of its
+    /// units counts `slow_cost` times.
+    static constexpr qsizetype slow_fold = 256, slow_cost = 4;
 
     explicit TextPieces(QString text = {}) : text_(std::move(text)) {}
 
