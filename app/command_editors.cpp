@@ -37,18 +37,6 @@ bool CommandEditors::set_current_command(const std::shared_ptr<MVCommandBase>& c
     return true;
 }
 
-void CommandEditors::suspend()
-{
-    for (const auto& editor : editors_)
-        editor->suspend();
-}
-
-void CommandEditors::resume()
-{
-    for (const auto& editor : editors_)
-        editor->resume();
-}
-
 void CommandEditors::refresh() const
 {
     if (current_)

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "ui/suspendable.h"
-
 #include <QObject>
 
 #include <functional>
@@ -19,7 +17,7 @@ using EditorList = std::vector<std::unique_ptr<CommandControllerBase>>;
 using MakeEditors = std::function<EditorList(AppServices&)>;
 
 /// The editors, and which of them has the current command. Main thread only.
-class CommandEditors final : public QObject, public Suspendable
+class CommandEditors final : public QObject
 {
     Q_OBJECT
 
@@ -39,10 +37,6 @@ public:
 
     /// The current command changed behind its editor: brings that up to date.
     void refresh() const;
-
-    /// Another page covers the editors'.
-    void suspend() override;
-    void resume() override;
 
     /// What OK does with the current command. True when the application may close at once, as it may without an
     /// editor.

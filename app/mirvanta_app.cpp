@@ -147,6 +147,7 @@ void MirvantaApp::on_context_menu_selected(int command_index, const QStringList&
 
 void MirvantaApp::take_selection(int command_index, const QStringList& paths)
 {
+    const auto command = active_list().current_command();
     log_failures([&] {
         enter_selection(*selected_items_, paths);
         if (!selected_items_->items().empty())
@@ -159,7 +160,10 @@ void MirvantaApp::take_selection(int command_index, const QStringList& paths)
         }
     });
     // However much of it was taken: texts were given up for it, and whoever waits for new ones waits for this.
-    log_failures([&] { editors_.refresh(); });
+    log_failures([&] {
+        if (active_list().current_command() == command)
+            editors_.refresh();
+    });
     log_failures([&] {
         menu_list().model().refresh_rows();
         library_list().model().refresh_rows();
@@ -174,19 +178,25 @@ void MirvantaApp::current_command_index_changed()
 
 void MirvantaApp::current_command_changed()
 {
-    if (steps_.is_running())
-        return;
-    editors_.set_current_command(active_list().current_command());
-    ui_->show_page(editors_.current());
+    if (!steps_.is_running())
+        show_current_command();
+}
+
+bool MirvantaApp::show_current_command()
+{
+    const bool is_other = editors_.set_current_command(active_list().current_command());
+    if (is_other)
+        ui_->show_page(editors_.current());
+    return is_other;
 }
 
 void MirvantaApp::step_ended(const WrittenCommands& written)
 {
-    const auto& command = active_list().current_command();
-    if (!editors_.set_current_command(command) && std::ranges::find(written, command) != written.end())
+    if (show_current_command())
+        ok_holds_ = false; // after a merge with another window's, say
+    else if (std::ranges::find(written, active_list().current_command()) != written.end())
         editors_.refresh();
-    ui_->show_page(editors_.current());
-    refresh_save_and_delete();
+    show_save_and_delete();
 }
 
 void MirvantaApp::active_tab_changed(int tab_index)
@@ -201,6 +211,12 @@ void MirvantaApp::show_active_list()
 }
 
 void MirvantaApp::refresh_save_and_delete()
+{
+    if (!steps_.is_running())
+        show_save_and_delete();
+}
+
+void MirvantaApp::show_save_and_delete()
 {
     ui_->show_save_button(stored_.has_unsaved_changes());
     ui_->enable_delete_button(!active_list().is_empty());

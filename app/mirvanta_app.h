@@ -99,8 +99,12 @@ private:
     void connect_all();
     void lay_out();
     void show_active_list();
+    /// False when an editor shows it already.
+    bool show_current_command();
     void step_ended(const WrittenCommands& written);
+    /// While steps of undo are running this waits for their end, for it takes a look at every command.
     void refresh_save_and_delete();
+    void show_save_and_delete();
     void select_loaded(bool usable, const std::shared_ptr<VellumarkCommand>& last);
     void take_selection(int command_index, const QStringList& paths);
 
@@ -114,7 +118,7 @@ private:
     ExemplarItemProvider exemplar_;
     SelectionSource source_;
     CommandEditors editors_;
-    bool ok_holds_ = false; ///< no selection has arrived since OK was pressed: what it was pressed for is still there
+    bool ok_holds_ = false; ///< since OK was pressed, no selection and no other command has come in
     ToolRow* tool_row_;     ///< made before `ui_`, so that it comes first in the tab order
     // Goes first: its widgets use all of the above.
     std::unique_ptr<MainAppUi> ui_;

@@ -44,10 +44,10 @@ installing_step() {
     local words
     read -ra words <<<"$1"
     case $1 in
-        *' newly installed, '*) package_count=$((words[0] + words[2])) ;;
-        Get:*) package_step Downloading "${words[4]}" ;;
-        'Unpacking '*) package_step Installing "${words[1]}" ;;
-        'Setting up '*) package_step 'Setting up' "${words[2]}" ;;
+        *' newly installed, '*) package_count=$((${words[0]-0} + ${words[2]-0})) ;;
+        Get:*) package_step Downloading "${words[4]-}" ;;
+        'Unpacking '*) package_step Installing "${words[1]-}" ;;
+        'Setting up '*) package_step 'Setting up' "${words[2]-}" ;;
     esac
 }
 

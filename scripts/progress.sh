@@ -4,17 +4,19 @@
 # Where there is no terminal, seconds between two lines of one stage.
 readonly progress_pause=10
 
-# with_progress STEP COMMAND...: nobody needs the command's output unless it fails, and then all of it is printed.
-# Meanwhile the function STEP is called with each of its lines, and sets `step` when the line tells how far it is.
-with_progress() {
-    local step_of=$1 log status=0
+# with_progress STEP COMMAND...: nobody needs the command's output unless it fails, and then all of it is printed but
+# Ninja's count of steps. Meanwhile the function STEP is called with each of its lines, and sets `step` when the line
+# tells how far it is.
+with_progress() (
+    step_of=$1 status=0
     shift
-    log=$(mktemp)
-    "$@" 2>&1 | tee -- "$log" | show_steps "$step_of" || status=$?
-    ((status == 0)) || cat -- "$log" >&2
-    rm -f -- "$log"
-    return "$status"
-}
+    log=$(mktemp) || exit
+    trap 'rm -f -- "$log"' EXIT
+    # What shows the steps must not end the command.
+    "$@" 2>&1 | tee -- "$log" | { show_steps "$step_of" || cat >/dev/null; } || status=$?
+    ((status == 0)) || grep -v '^\[[0-9]*/[0-9]*\]' -- "$log" >&2 || true
+    exit "$status"
+)
 
 # Shows the steps of the lines on standard input: on a terminal in one line that changes, elsewhere each stage, which is
 # the step's first word, and how far it is now and then.

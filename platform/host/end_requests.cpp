@@ -35,7 +35,8 @@ void watch(int signal)
         return;
     action = {};
     action.sa_handler = tell_of_request;
-    action.sa_flags = SA_RESTART;
+    // Whoever asks again doesn't want to wait.
+    action.sa_flags = SA_RESTART | static_cast<int>(SA_RESETHAND);
     sigaction(signal, &action, nullptr);
 }
 

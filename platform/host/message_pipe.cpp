@@ -40,6 +40,12 @@ public:
         polled_.reserve(bounds.clients + 1);
     }
 
+    /// A client whose end is all that it hears takes its message for read.
+    ~SocketPipe() override { refuse_all(); }
+
+    SocketPipe(const SocketPipe&) = delete;
+    SocketPipe& operator=(const SocketPipe&) = delete;
+
     std::error_code open(const std::function<void()>& waits) override { return listener_.open(waits); }
 
     std::error_code receive(PipeMessage& message) override
@@ -50,7 +56,8 @@ public:
                 refuse_all();
                 return make_error_code(std::errc::operation_canceled);
             }
-            if (const std::error_code error = take_clients())
+            // Closed in between, it goes the way above.
+            if (const std::error_code error = take_clients(); error && !listener_.is_closed())
                 return error;
             if (take_message(message))
                 return {};

@@ -250,6 +250,20 @@ TEST_F(EditorTest, WaitsForTheTextThatIsStillMade)
     EXPECT_EQ(to_qstring(*clipboard.text), preview().toPlainText());
 }
 
+TEST_F(EditorTest, SuspendedItMakesNoTextUntilOneIsWanted)
+{
+    open_with({to_qstring(folder.write_endless("endless"))});
+    const QPointer<WaitForTextDlg> waits = open_wait_dialog();
+    editor().suspend();
+    EXPECT_FALSE(waits && waits->isVisible()) << "its text would never come";
+    app->menu_list().select(1);
+    const auto& generator = *editor().findChild<PreviewGenerator*>();
+    EXPECT_TRUE(becomes([&] { return !generator.is_reading(); }) && generator.text().isEmpty());
+    press("OK");
+    EXPECT_TRUE(becomes([&] { return !app->isVisible(); }));
+    EXPECT_EQ(clipboard.text, u"endless");
+}
+
 TEST_F(EditorTest, ABuiltinCommandEndsTheWorkOfTheOther)
 {
     open_with({to_qstring(folder.write_endless("endless"))});

@@ -81,8 +81,10 @@ TEST(Command, CopiesAreDeepAndEqualityIsOfAllFields)
 {
     const VellumarkCommand original = make_command("{}");
     const std::vector<void (*)(VellumarkCommand&)> changes{
-        [](VellumarkCommand& c) { c.file_parts()->remove(c.file_parts()->begin()); },
-        [](VellumarkCommand& c) { c.folder_parts()->append(*c.file_parts()->begin()); },
+        [](VellumarkCommand& c) {
+            c.set_parts(VellumarkCommand::Template::Files, std::make_shared<ItemPartsList>());
+        },
+        [](VellumarkCommand& c) { c.parts(VellumarkCommand::Template::Folders)->append(c.file_parts()->at(0)); },
         [](VellumarkCommand& c) { c.set_name(u"x"); },
         [](VellumarkCommand& c) { c.set_name1(u"x"); },
         [](VellumarkCommand& c) { c.set_separator(u"x"); },

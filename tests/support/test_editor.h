@@ -46,10 +46,6 @@ public:
         return current != nullptr;
     }
 
-    void suspend() override { calls += "suspend "; }
-
-    void resume() override { calls += "resume "; }
-
     void refresh() override { calls += app().selection().is_selection_coming() ? "early-refresh " : "refresh "; }
 
     void selection_coming() override { calls += app().selection().is_selection_coming() ? "coming " : "late "; }

@@ -1,5 +1,6 @@
 #include "list_fixture.h"
 #include "ui/lists/undo_move_command_between_lists.h"
+#include "ui/undo/command_step.h"
 
 #include <QMimeData>
 
@@ -104,6 +105,48 @@ TEST_F(CommandsListUndo, AStepInACommandBringsItToTheFront)
     app.stack.undo();
     EXPECT_EQ(edited->separator(), u"; ") << "a command that stands nowhere is written all the same";
     EXPECT_EQ(seen, "library 0 written, library 0 written, menu 2 written, ");
+}
+
+/// Types a separator.
+class TypeSeparator final : public CommandStep
+{
+public:
+    TypeSeparator(CommandLists& lists, const std::shared_ptr<MVCommandBase>& command, std::u16string text)
+        : CommandStep(lists, command, "Type"), new_(std::move(text))
+    {}
+
+    int id() const override { return 1000; }
+
+private:
+    void write_old(MVCommandBase& command) override { dynamic_cast<VellumarkCommand&>(command).set_separator({}); }
+
+    void write_new(MVCommandBase& command) override { dynamic_cast<VellumarkCommand&>(command).set_separator(new_); }
+
+    bool join(const CommandStep& later) override
+    {
+        new_ = dynamic_cast<const TypeSeparator&>(later).new_;
+        return true;
+    }
+
+    std::u16string new_;
+};
+
+TEST_F(CommandsListUndo, TypingIsOneStepACommand)
+{
+    for (const int row : {0, 1}) {
+        const auto command = app.menu.command_at(row);
+        app.menu.select_without_undo(row);
+        for (const char16_t* typed : {u"a", u"ab", u"abc"})
+            app.stack.push(new TypeSeparator(app.lists(), command, typed));
+    }
+    EXPECT_EQ(menu_shown(), "A* >B* C D Save");
+    EXPECT_EQ(app.stack.count(), 2);
+    app.stack.undo();
+    EXPECT_EQ(menu_shown(), "A* >B C D Save");
+    app.stack.undo();
+    EXPECT_EQ(menu_shown(), ">A B C D ");
+    app.stack.redo();
+    EXPECT_EQ(dynamic_cast<VellumarkCommand&>(*app.menu.command_at(0)).separator(), u"abc");
 }
 
 TEST_F(CommandsListUndo, AStepThatThrowsLeavesNoneRunning)

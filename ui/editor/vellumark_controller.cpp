@@ -92,7 +92,8 @@ void VellumarkController::selection_coming()
 {
     // Whoever is waiting meant the selection before.
     stop_waiting();
-    on_preview_text_updating();
+    if (!generator_.is_suspended())
+        on_preview_text_updating();
 }
 
 bool VellumarkController::is_text_coming() const

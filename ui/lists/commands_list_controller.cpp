@@ -8,6 +8,8 @@
 #include "ui/lists/undo_discard_changes.h"
 #include "ui/lists/undo_select_stored_command.h"
 
+#include <QScopeGuard>
+
 #include <algorithm>
 
 namespace {
@@ -157,9 +159,9 @@ void CommandsListController::reorder(const std::vector<int>& order)
 
     QUndoStack& stack = undo_stack();
     stack.beginMacro(tr("Undo Reorder Commands"));
+    const auto end = qScopeGuard([&stack] { stack.endMacro(); });
     stack.push(new UndoSelectStoredCommand(*this, current_index_, {}));
     push_list(std::move(state), {});
-    stack.endMacro();
 }
 
 void CommandsListController::command_changed(const MVCommandBase& command)

@@ -4,8 +4,8 @@
 
 class UndoSteps;
 
-/// A step that can be taken back. It only makes its change: what follows from that is done once it has ended. Main
-/// thread only.
+/// A step that can be taken back. It only makes its change: what follows from that is done once it has ended. None
+/// makes itself obsolete, for the stack doesn't tell of the end of such a one. Main thread only.
 class UndoStep : public QUndoCommand
 {
 public:

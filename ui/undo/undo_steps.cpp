@@ -33,6 +33,6 @@ void UndoSteps::written(const std::shared_ptr<MVCommandBase>& command)
 
 void UndoSteps::end()
 {
-    is_running_ = false;
     emit ended(std::exchange(written_, {}));
+    is_running_ = false;
 }

@@ -26,6 +26,7 @@ public:
 
     QUndoStack& stack() { return stack_; }
 
+    /// Also while `ended` is told.
     bool is_running() const { return is_running_; }
 
     /// For steps: makes their change. One that throws ends what is running.
