@@ -61,8 +61,8 @@ private:
     {
         std::vector<Place> result(size);
         for (std::size_t i = 0; i < places.size(); ++i)
-            if (places[i])
-                result[*places[i]] = i;
+            if (const Place& place = places[i])
+                result[*place] = i;
         return result;
     }
 
