@@ -165,7 +165,7 @@ void cancel_step(benchmark::State& state, const MVItemInfo& info,
 
 void cancel_checksums(benchmark::State& state)
 {
-    cancel_step(state, {.name = u"small"}, [](const Items& items, ItemProgressSink& sink) {
+    cancel_step(state, {{}, u"small"}, [](const Items& items, ItemProgressSink& sink) {
         precache_checksums(items, {ChecksumType::Crc32, ChecksumType::XxHash64}, false, sink);
     });
 }
@@ -173,7 +173,7 @@ void cancel_checksums(benchmark::State& state)
 /// Folders that have yet to be read, and don't exist.
 void cancel_folder_list(benchmark::State& state)
 {
-    cancel_step(state, {.name = u"missing", .is_folder = true},
+    cancel_step(state, {{.is_folder = true}, u"missing"},
                 [](const Items& items, ItemProgressSink& sink) { precache_folders(items, sink); });
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <compare>
 #include <string>
 #include <string_view>
 
@@ -26,6 +27,10 @@ std::u16string from_host_name(std::string_view name);
 /// Appends the bytes that `from_host_name` decoded to `name`. A surrogate that it never yields, one without its
 /// partner that stands for no byte, is appended as U+FFFD.
 void append_host_name(std::string& bytes, std::u16string_view name);
+
+/// How two names in one folder compare: equal when the file system takes them for the same. Here it tells names apart
+/// exactly, so that the order is that of their UTF-16 units.
+std::strong_ordering compare_names(std::u16string_view left, std::u16string_view right);
 
 /// Replaces, unit for unit, what only stands for odd bytes of a host name: U+F05C becomes `\`, a surrogate
 /// without its partner U+FFFD.

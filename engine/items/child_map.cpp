@@ -1,10 +1,12 @@
 #include "engine/items/child_map.h"
 
 #include "engine/text/letters.h"
+#include "platform/paths.h"
 
 #include <algorithm>
+#include <utility>
 
-bool ChildMap::key_less(std::u16string_view left, std::u16string_view right)
+bool ChildMap::name_less(std::u16string_view left, std::u16string_view right)
 {
     const std::size_t common = std::min(left.size(), right.size());
     for (std::size_t i = 0; i < common; ++i) {
@@ -14,23 +16,23 @@ bool ChildMap::key_less(std::u16string_view left, std::u16string_view right)
         if (left_unit != right_unit)
             return left_unit < right_unit;
     }
-    return left.size() < right.size();
+    return left.size() == right.size() ? platform::compare_names(left, right) < 0 : left.size() < right.size();
 }
 
-bool ChildMap::ByKey::operator()(const std::shared_ptr<MVItemBase>& left,
-                                 const std::shared_ptr<MVItemBase>& right) const
+bool ChildMap::ByName::operator()(const std::shared_ptr<MVItemBase>& left,
+                                  const std::shared_ptr<MVItemBase>& right) const
 {
-    return key_less(left->name(), right->name());
+    return name_less(left->name(), right->name());
 }
 
-bool ChildMap::ByKey::operator()(const std::shared_ptr<MVItemBase>& left, std::u16string_view right) const
+bool ChildMap::ByName::operator()(const std::shared_ptr<MVItemBase>& left, std::u16string_view right) const
 {
-    return key_less(left->name(), right);
+    return name_less(left->name(), right);
 }
 
-bool ChildMap::ByKey::operator()(std::u16string_view left, const std::shared_ptr<MVItemBase>& right) const
+bool ChildMap::ByName::operator()(std::u16string_view left, const std::shared_ptr<MVItemBase>& right) const
 {
-    return key_less(left, right->name());
+    return name_less(left, right->name());
 }
 
 std::shared_ptr<MVItemBase> ChildMap::find(std::u16string_view name) const
@@ -42,6 +44,14 @@ std::shared_ptr<MVItemBase> ChildMap::find(std::u16string_view name) const
 MVItemBase& ChildMap::insert(const std::shared_ptr<MVItemBase>& item)
 {
     return **items_.insert(items_.end(), item);
+}
+
+std::shared_ptr<MVItemBase> ChildMap::replace(std::shared_ptr<MVItemBase> item)
+{
+    auto place = items_.extract(items_.find(item));
+    std::shared_ptr<MVItemBase> replaced = std::exchange(place.value(), std::move(item));
+    items_.insert(std::move(place));
+    return replaced;
 }
 
 void ChildMap::release_into(std::vector<std::shared_ptr<MVItemBase>>& items)

@@ -13,6 +13,7 @@ struct MVItemBase::Extras {
     std::map<std::u16string, std::u16string, std::less<>> properties;
     std::map<ChecksumType, std::u16string> checksums;
     std::vector<std::u16string> selector_parts;
+    std::vector<std::shared_ptr<MVItemBase>> replaced_children;
 };
 
 MVItemBase::MVItemBase(MVItemInfo info, const MVItemFolder* parent) : info_(std::move(info)), parent_(parent) {}
@@ -39,6 +40,11 @@ void MVItemBase::take_times_and_size(const MVItemInfo& info)
     info_.created = info.created;
     info_.accessed = info.accessed;
     info_.size = info.size;
+}
+
+void MVItemBase::keep(std::shared_ptr<MVItemBase> replaced) const
+{
+    extras().replaced_children.push_back(std::move(replaced));
 }
 
 std::u16string_view MVItemBase::root_name() const

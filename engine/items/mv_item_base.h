@@ -72,6 +72,9 @@ public:
 protected:
     MVItemBase(MVItemInfo info, const MVItemFolder* parent);
 
+    /// Keeps an item that has lost its place in the tree: what is selected below it needs its parents.
+    void keep(std::shared_ptr<MVItemBase> replaced) const;
+
 private:
     friend class MVItemFolder;
     struct Extras;

@@ -1,9 +1,11 @@
 #include "engine/items/mv_item_folder.h"
 
+#include "engine/items/delete_elsewhere.h"
 #include "engine/items/long_path.h"
 #include "platform/files.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -19,21 +21,37 @@ std::u16string_view server_alone(std::u16string_view path)
 
 using Entries = std::vector<std::shared_ptr<MVItemBase>>;
 
-Entries read_folder(const MVItemFolder& folder, CancelPoint& cancel_point)
-{
+/// What the read of a folder has found.
+struct Reading {
     Entries entries;
+    ChildMap children; ///< those entries and what was there before
+
+    /// Whoever cancels a read doesn't wait until all that it has found is freed.
+    struct Deleter {
+        void operator()(Reading* reading) const
+        {
+            constexpr std::size_t many = 20'000; // some milliseconds
+            if (reading->entries.size() < many)
+                delete reading;
+            else
+                delete_elsewhere(reading);
+        }
+    };
+};
+
+void read_folder(const MVItemFolder& folder, Entries& entries, CancelPoint& cancel_point)
+{
     const std::u16string path = folder.full_path();
     if (const auto server = server_alone(path); !server.empty()) {
         for (std::u16string& share : platform::server_shares(server))
-            entries.push_back(make_item({.name = std::move(share), .is_folder = true}, &folder));
-        return entries;
+            entries.push_back(make_item({{.is_folder = true}, std::move(share)}, &folder));
+        return;
     }
     platform::for_each_entry(add_long_path_prefix(path),
                              [&](std::u16string name, const platform::FileAttributes& attributes) {
                                  cancel_point.step();
-                                 entries.push_back(make_item(MVItemInfo::of(std::move(name), attributes), &folder));
+                                 entries.push_back(make_item({attributes, std::move(name)}, &folder));
                              });
-    return entries;
 }
 
 }
@@ -48,6 +66,12 @@ MVItemFolder::~MVItemFolder()
         if (const MVItemFolder* folder = item->as_folder(); folder && item.use_count() == 1)
             folder->children_.release_into(released);
     }
+}
+
+void MVItemFolder::insert(const std::shared_ptr<MVItemBase>& item)
+{
+    if (children_.insert(item).is_folder() != item->is_folder())
+        keep(children_.replace(item));
 }
 
 void MVItemFolder::load_children(const CancelTest& cancelled) const
@@ -68,13 +92,33 @@ void MVItemFolder::load_children(const CancelTest& cancelled) const
 void MVItemFolder::read_and_merge(const CancelTest& cancelled) const
 {
     CancelPoint cancel_point(cancelled);
-    Entries entries = read_folder(*this, cancel_point);
-    // Stable, so that of several names with one key the first read stays and the last one's attributes count.
-    std::ranges::stable_sort(entries, [&](const auto& left, const auto& right) {
+    const std::unique_ptr<Reading, Reading::Deleter> reading(new Reading);
+    read_folder(*this, reading->entries, cancel_point);
+    std::ranges::sort(reading->entries, [&](const auto& left, const auto& right) {
         cancel_point.step();
-        return ChildMap::key_less(left->name(), right->name());
+        return ChildMap::name_less(left->name(), right->name());
     });
-    for (const auto& entry : entries)
-        if (MVItemBase& child = children_.insert(entry); &child != entry.get())
-            child.take_times_and_size(entry->info());
+    for (const auto& entry : reading->entries) {
+        cancel_point.step();
+        reading->children.insert(child_for(entry));
+    }
+    for (const auto& child : children_) {
+        cancel_point.step();
+        reading->children.insert(child);
+    }
+    std::swap(children_, reading->children);
+}
+
+/// The child that there is for an entry, brought up to date, or the entry itself.
+std::shared_ptr<MVItemBase> MVItemFolder::child_for(const std::shared_ptr<MVItemBase>& entry) const
+{
+    const std::shared_ptr<MVItemBase> child = children_.find(entry->name());
+    if (!child)
+        return entry;
+    if (child->is_folder() != entry->is_folder()) {
+        keep(child);
+        return entry;
+    }
+    child->take_times_and_size(entry->info());
+    return child;
 }

@@ -23,7 +23,8 @@ public:
     const MVItemFolder* as_folder() const override { return this; }
 
     /// Reads the directory, the shares for a server alone, at most once: an unreadable folder counts as read and
-    /// empty. A child that was there before takes over the read's times and size. No two threads may be in here for
+    /// empty. A child that was there before takes over the read's times and size, or gives its
+    /// place up when it has become a folder, or one no more. No two threads may be in here for
     /// one folder, nor may another thread use the children meanwhile.
     /// A read that `cancelled` stops counts as not begun.
     void load_children(const CancelTest& cancelled = {}) const;
@@ -33,11 +34,13 @@ public:
 
     const ChildMap& children() const { return children_; }
 
-    /// Enters an item whose parent this is. A child with the item's key stays in its place.
-    void insert(const std::shared_ptr<MVItemBase>& item) { children_.insert(item); }
+    /// Enters an item whose parent this is. A child of the item's name stays in its place, unless one is a file and
+    /// the other a folder: then the file system has changed, and the newer one counts.
+    void insert(const std::shared_ptr<MVItemBase>& item);
 
 private:
     void read_and_merge(const CancelTest& cancelled) const;
+    std::shared_ptr<MVItemBase> child_for(const std::shared_ptr<MVItemBase>& entry) const;
 
     /// Filled on demand, through items that are const to whoever writes a text.
     mutable ChildMap children_;

@@ -6,6 +6,7 @@
 #include "platform/files.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -24,27 +25,36 @@ std::size_t head_length(std::u16string_view path)
 
 std::shared_ptr<MVItemFolder> make_intermediate(std::u16string_view name, const MVItemFolder& parent)
 {
-    return std::make_shared<MVItemFolder>(MVItemInfo{.name = std::u16string(name), .is_folder = true}, &parent);
+    return std::make_shared<MVItemFolder>(MVItemInfo{{.is_folder = true}, std::u16string(name)}, &parent);
 }
 
-/// The child folder of that name, made where there is none; throws `error` when the child is a file.
-std::shared_ptr<MVItemFolder> child_folder(MVItemFolder& parent, std::u16string_view name, std::u16string_view path,
-                                           MVItemError error)
+/// The child folder of that name, made where there is none. A file of that name has become a folder when a path below
+/// it is known to exist; otherwise there is no such folder, and null comes back.
+std::shared_ptr<MVItemFolder> child_folder(MVItemFolder& parent, std::u16string_view name, bool exists)
 {
-    if (const std::shared_ptr<MVItemBase> child = parent.children().find(name)) {
-        if (!child->is_folder())
-            throw MVItemException(std::u16string(path), error);
+    const std::shared_ptr<MVItemBase> child = parent.children().find(name);
+    if (child && child->is_folder())
         return std::static_pointer_cast<MVItemFolder>(child);
-    }
+    if (child && !exists)
+        return nullptr;
     auto made = make_intermediate(name, parent);
     parent.insert(made);
     return made;
 }
 
+/// A drive is the same whatever the case of its letter, which no file system has a say in; a server is a folder's
+/// name.
+std::shared_ptr<MVItemFolder> top_level_folder(MVItemFolder& root, std::u16string_view head)
+{
+    std::u16string other_case(head);
+    if (other_case[1] == u':')
+        other_case[0] ^= u'a' ^ u'A';
+    return child_folder(root, root.children().find(other_case) ? other_case : head, false);
 }
 
-MVItemsSet::MVItemsSet() : root_(std::make_shared<MVItemFolder>(MVItemInfo{.name = {}, .is_folder = true}, nullptr))
-{}
+}
+
+MVItemsSet::MVItemsSet() : root_(std::make_shared<MVItemFolder>(MVItemInfo{{.is_folder = true}, {}}, nullptr)) {}
 
 MVItemsSet::MVItemsSet(std::u16string_view path) : MVItemsSet()
 {
@@ -57,24 +67,35 @@ MVItemsSet::MVItemsSet(std::span<const std::u16string> paths) : MVItemsSet()
         add_path(path);
 }
 
-void MVItemsSet::add_path(std::u16string_view path)
+std::optional<platform::FileAttributes> MVItemsSet::attributes_of(std::u16string_view path)
+{
+    const std::size_t head = head_length(path);
+    if (head == 0 || head + 1 >= path.size() || path.ends_with(u'\\'))
+        return {};
+    return platform::file_attributes(add_long_path_prefix(path));
+}
+
+void MVItemsSet::add_path(std::u16string_view path, const std::optional<platform::FileAttributes>& attributes)
 {
     const std::size_t head = head_length(path);
     if (head == 0)
         throw MVItemException(std::u16string(path), MVItemError::PathNotAbsolute);
-    std::shared_ptr<MVItemFolder> folder =
-        child_folder(*root_, path.substr(0, head), path, MVItemError::RootFolderError);
+    std::shared_ptr<MVItemFolder> folder = top_level_folder(*root_, path.substr(0, head));
+    if (!folder)
+        throw MVItemException(std::u16string(path), MVItemError::RootFolderError);
     std::size_t at = head + 1;
     if (at >= path.size())
         return select(std::move(folder));
-    for (std::size_t end = 0; (end = path.find(u'\\', at)) != path.npos; at = end + 1)
-        folder = child_folder(*folder, path.substr(at, end - at), path, MVItemError::SubfolderIsNoFolder);
+    for (std::size_t end = 0; (end = path.find(u'\\', at)) != path.npos; at = end + 1) {
+        folder = child_folder(*folder, path.substr(at, end - at), attributes.has_value());
+        if (!folder)
+            throw MVItemException(std::u16string(path), MVItemError::SubfolderIsNoFolder);
+    }
     if (at == path.size())
         return;
-    const auto attributes = platform::file_attributes(add_long_path_prefix(path));
     if (!attributes)
         throw AttributesUnreadable();
-    auto item = make_item(MVItemInfo::of(std::u16string(path.substr(at)), *attributes), folder.get());
+    auto item = make_item({*attributes, std::u16string(path.substr(at))}, folder.get());
     folder->insert(item);
     select(std::move(item));
 }
@@ -90,4 +111,13 @@ void MVItemsSet::reset()
 {
     items_.clear();
     has_files_ = has_folders_ = has_links_ = false;
+}
+
+void MVItemsSet::swap(MVItemsSet& other) noexcept
+{
+    std::swap(root_, other.root_);
+    std::swap(items_, other.items_);
+    std::swap(has_files_, other.has_files_);
+    std::swap(has_folders_, other.has_folders_);
+    std::swap(has_links_, other.has_links_);
 }

@@ -3,6 +3,7 @@
 #include "engine/items/mv_item_folder.h"
 
 #include <memory>
+#include <optional>
 #include <span>
 #include <stdexcept>
 #include <string_view>
@@ -16,8 +17,8 @@ public:
 };
 
 /// The current selection: a tree of items below a nameless root, and the selected items in order of arrival. The
-/// tree is kept for the set's whole life, so that no node of it is read twice. Nothing here is guarded: while a text
-/// is generated from the set it must not change.
+/// tree is kept until the set gives its items away, so that no node of it is read twice. Nothing here is guarded:
+/// while a text is generated from the set it must not change.
 class MVItemsSet
 {
 public:
@@ -28,10 +29,20 @@ public:
 
     /// Selects an absolute path in drive or server form and reads its attributes; folders on the way are made
     /// without a look at the disk. A drive or server alone selects the top-level node; a path that ends in a
-    /// backslash below that selects nothing. A path selected twice yields two items.
+    /// backslash below that selects nothing. A path selected twice yields two items. A drive's letter has no case.
     /// Throws MVItemException for a malformed path and AttributesUnreadable when the attributes can't be read; what
     /// was selected before stays.
-    void add_path(std::u16string_view path);
+    void add_path(std::u16string_view path) { add_path(path, attributes_of(path)); }
+
+    /// The same without a look at the disk, with what `attributes_of` the path gave.
+    void add_path(std::u16string_view path, const std::optional<platform::FileAttributes>& attributes);
+
+    /// Reads what has to be known of a path before it can be selected. Empty when its attributes can't be read, and
+    /// for a path of which none are needed. Any thread.
+    static std::optional<platform::FileAttributes> attributes_of(std::u16string_view path);
+
+    /// Exchanges all that the two sets hold, in constant time however many items they are. Items stay where they are.
+    void swap(MVItemsSet& other) noexcept;
 
     /// Empties the selection; the tree stays with all it has read.
     void reset();

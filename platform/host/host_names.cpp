@@ -56,6 +56,11 @@ std::u16string from_host_name(std::string_view name)
     return decode_host_bytes(name, u'/');
 }
 
+std::strong_ordering compare_names(std::u16string_view left, std::u16string_view right)
+{
+    return left <=> right;
+}
+
 void append_host_name(std::string& bytes, std::u16string_view name)
 {
     append_host_bytes(bytes, name, '\\');

@@ -41,11 +41,12 @@ TEST(AddPath, RefusesWhatIsNotAbsolute)
 TEST(AddPath, SelectsTopLevelNodesWithoutALook)
 {
     MVItemsSet set;
-    for (const auto* path : {u"C:\\", u"Q:\\", u"\\\\server", u"\\\\SERVER\\"})
+    for (const auto* path : {u"C:\\", u"Q:\\", u"\\\\server", u"\\\\SERVER\\", u"\\\\server\\", u"c:\\"})
         EXPECT_EQ(error_of(path, set), "no error");
-    ASSERT_EQ(set.items().size(), 4u);
-    EXPECT_EQ(names(set.root()), "\\\\server/ C:/ Q:/ ");
-    EXPECT_EQ(set.items()[2], set.items()[3]);
+    ASSERT_EQ(set.items().size(), 6u);
+    EXPECT_EQ(names(set.root()), "\\\\SERVER/ \\\\server/ C:/ Q:/ ");
+    EXPECT_EQ(set.items()[2], set.items()[4]);
+    EXPECT_EQ(set.items()[0], set.items()[5]) << "a drive's letter has no case";
     EXPECT_EQ(to_utf8(set.items()[1]->full_path()), "Q:\\");
     EXPECT_EQ(set.items()[0]->drive_letter(), u"C");
     EXPECT_EQ(set.items()[2]->drive_letter(), u"");
@@ -57,7 +58,6 @@ TEST(AddPath, BuildsOneTreeAndKeepsWhatCameFirst)
     const TempFolder folder;
     folder.write("Dir/a.txt", "four");
     folder.write("Dir/b.txt");
-    folder.make_folder("dir");
     MVItemsSet set;
     set.add_path(folder.path("Dir/a.txt"));
     set.add_path(folder.path("Dir") + u"\\");
@@ -69,10 +69,7 @@ TEST(AddPath, BuildsOneTreeAndKeepsWhatCameFirst)
     EXPECT_EQ(names(folder_at(set, 1)), "a.txt b.txt ");
     EXPECT_EQ(names(*set.items()[0]->parent()), "a.txt ");
 
-    // The upper-case folder's name serves for both.
-    EXPECT_EQ(error_of(folder.path("dir/a.txt"), set), "GetFileAttributesEx failed");
-    set.add_path(folder.path("Dir/A.TXT").substr(0, folder.path("Dir/").size()) + u"b.txt");
-    EXPECT_EQ(to_utf8(set.items()[2]->full_path()), to_utf8(folder.path("Dir/b.txt")));
+    set.add_path(folder.path("Dir/b.txt"));
     EXPECT_EQ(set.items()[0]->parent(), set.items()[2]->parent());
 
     set.add_path(folder.path("Dir/a.txt"));
@@ -89,7 +86,7 @@ TEST(AddPath, FailingPathsLeaveTheirFoldersAndTheExceptionNamesThePath)
 {
     MVItemsSet set;
     EXPECT_EQ(error_of(u"C:\\no such folder\\deeper\\x", set), "GetFileAttributesEx failed");
-    EXPECT_EQ(names(static_cast<const MVItemFolder&>(*set.root().children().find(u"c:"))), "no such folder/ ");
+    EXPECT_EQ(names(static_cast<const MVItemFolder&>(*set.root().children().find(u"C:"))), "no such folder/ ");
     try {
         set.add_path(u"nowhere");
         FAIL();
@@ -148,29 +145,59 @@ TEST(LoadChildren, MergesIntoWhatTheTreeHas)
     folder.write("alpha");
     parent->load_children();
     EXPECT_EQ(names(*parent), "alpha old.txt Sub/ Zed ");
-    EXPECT_EQ(parent->children().find(u"OLD.TXT").get(), old_item);
+    EXPECT_EQ(parent->children().find(u"old.txt").get(), old_item);
     EXPECT_EQ(old_item->info().size, 10u);
-    EXPECT_GT(parent->children().find(u"sub")->info().modified, 0);
-    EXPECT_FALSE(static_cast<const MVItemFolder&>(*parent->children().find(u"sub")).children_loaded());
+    EXPECT_GT(parent->children().find(u"Sub")->info().modified, 0);
+    EXPECT_FALSE(static_cast<const MVItemFolder&>(*parent->children().find(u"Sub")).children_loaded());
     folder.write("later");
     parent->load_children();
     EXPECT_EQ(parent->children().find(u"later"), nullptr) << "a folder is read once";
 }
 
-TEST(LoadChildren, NamesThatDifferInCaseAloneAreOneChild)
+TEST(Names, ThatDifferInCaseAloneAreDifferentFiles)
 {
     const TempFolder folder;
-    folder.write("both/Name", "1");
-    folder.write("both/NAME", "22");
-    std::vector<std::string> order;
-    for (const auto& entry : std::filesystem::directory_iterator(folder.host("both")))
-        order.push_back(entry.path().filename().string());
-    MVItemsSet set(folder.path("both"));
-    folder_at(set, 0).load_children();
-    ASSERT_EQ(folder_at(set, 0).children().size(), 1u);
-    const MVItemBase& child = **folder_at(set, 0).children().begin();
-    EXPECT_EQ(to_utf8(child.name()), order.front());
-    EXPECT_EQ(child.info().size, order.back() == "Name" ? 1u : 2u);
+    for (const char* name : {"Data", "data/x", "Foo/x", "foo/y", "foo/Y", "foo/ya", "foo/x"})
+        folder.write(name, name);
+    const auto with_size = [](const MVItemBase& item) {
+        return to_utf8(item.name()) + ":" + std::to_string(item.info().size) + " ";
+    };
+    MVItemsSet set;
+    std::string selected;
+    for (const char* name : {"Data", "data/x", "Foo/x", "foo/y", "foo"}) {
+        set.add_path(folder.path(name));
+        EXPECT_EQ(to_utf8(set.items().back()->full_path()), to_utf8(folder.path(name)));
+        selected += with_size(*set.items().back());
+    }
+    EXPECT_EQ(selected, "Data:4 x:6 x:5 y:5 foo:0 ");
+    folder_at(set, 4).load_children();
+    std::string children;
+    for (const auto& child : folder_at(set, 4).children())
+        children += with_size(*child);
+    EXPECT_EQ(children, "x:5 Y:5 y:5 ya:6 ");
+    EXPECT_EQ(names(*set.items()[0]->parent()), "Data data/ Foo/ foo/ ");
+}
+
+TEST(Names, OfAFileThatHasBecomeAFolderOrTheReverseAreReadAnew)
+{
+    const TempFolder folder;
+    folder.write("f");
+    folder.write("d/x");
+    MVItemsSet set;
+    set.add_path(folder.path("f"));
+    set.add_path(folder.path("d/x"));
+    std::filesystem::remove(folder.host("f"));
+    std::filesystem::remove_all(folder.host("d"));
+    folder.write("f/y");
+    folder.write("d", "a file now");
+    EXPECT_EQ(error_of(folder.path("f/gone"), set), "Path subfolder is not a folder");
+    set.add_path(folder.path("f/y"));
+    const MVItemFolder& parent = *set.items()[0]->parent();
+    EXPECT_EQ(names(parent), "d/ f/ ");
+    parent.load_children();
+    EXPECT_EQ(names(parent), "d f/ ");
+    EXPECT_EQ(parent.children().find(u"d")->info().size, 10u);
+    EXPECT_EQ(to_utf8(set.items()[1]->full_path()), to_utf8(folder.path("d/x"))) << "what was selected stays whole";
 }
 
 TEST(LoadChildren, VanishedFoldersAreEmpty)

@@ -23,9 +23,8 @@ std::string text_of_part(const ItemPartBase& part, const MVItemBase& item)
 
 std::shared_ptr<MVItemBase> named(std::u16string name, std::uint64_t size = 0, bool is_folder = false)
 {
-    return make_item(
-        {.name = std::move(name), .modified = 133'540'961'430'000'000, .size = size, .is_folder = is_folder},
-        nullptr);
+    return make_item({{.modified = 133'540'961'430'000'000, .size = size, .is_folder = is_folder}, std::move(name)},
+                     nullptr);
 }
 
 TEST(NamePart, SplitsAtTheLastDot)
@@ -157,7 +156,7 @@ TEST(DatePart, UnknownTimesContributeNothing)
     part.set_date_type(ItemPartDate::DateType::Created);
     EXPECT_EQ(text_of_part(part, *item), "");
     for (const std::int64_t ticks : {std::int64_t{-1}, std::numeric_limits<std::int64_t>::max()})
-        EXPECT_EQ(text_of_part(part, *make_item({.name = u"x", .created = ticks}, nullptr)), "");
+        EXPECT_EQ(text_of_part(part, *make_item({{.created = ticks}, u"x"}, nullptr)), "");
 }
 
 TEST(AutoNumberPart, CountsCallsInWrappingArithmetic)

@@ -23,7 +23,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     using Type = ItemPartName::NameType;
     const std::u16string name = FuzzInput(data, size).text();
-    const auto item = make_item({.name = name}, nullptr);
+    const auto item = make_item({{}, name}, nullptr);
     const auto plain = [&](Type type) { return text_of(*item, type, CaseType::Unchanged); };
     const std::u16string before = plain(Type::NameNoExt), after = plain(Type::ExtOnly), whole = plain(Type::FullName);
     if (name.find(u'.') == name.npos)
