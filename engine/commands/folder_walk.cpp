@@ -75,7 +75,11 @@ void keep_unread(Folders& folders, CancelPoint& cancel_point)
         cancel_point.step();
         return std::less<>()(left, right);
     });
-    folders.erase(std::ranges::unique(folders).begin(), folders.end());
+    const auto repeated = std::ranges::unique(folders, [&](const MVItemFolder* left, const MVItemFolder* right) {
+        cancel_point.step();
+        return left == right;
+    });
+    folders.erase(repeated.begin(), repeated.end());
 }
 
 /// Reads the folders on a pool of threads and returns the unread folders found in them.
