@@ -10,6 +10,7 @@
 #include "ui/lists/commands_table_view.h"
 
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QPushButton>
 #include <QSettings>
 #include <QStackedLayout>
@@ -72,6 +73,10 @@ QWidget* MainAppUi::make_right_pane()
     auto* layout = new QVBoxLayout(pane);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(make_button_row());
+    silent_items_ = new QLabel;
+    silent_items_->setWordWrap(true);
+    silent_items_->hide();
+    layout->addWidget(silent_items_);
     pages_ = new QStackedLayout;
     no_command_ = new NoCommandsWidget(app_);
     pages_->addWidget(no_command_);
@@ -115,6 +120,13 @@ void MainAppUi::show_page(CommandControllerBase* editor)
     const CommandsListController& list = app_.active_list();
     no_command_->set_state(&list == &app_.library_list(), list.is_empty());
     pages_->setCurrentWidget(no_command_);
+}
+
+void MainAppUi::show_silent_items(std::size_t count)
+{
+    silent_items_->setText(
+        tr("%n item(s) did not answer and are taken by their names alone", nullptr, static_cast<int>(count)));
+    silent_items_->setVisible(count != 0);
 }
 
 void MainAppUi::show_save_button(bool visible)

@@ -2,6 +2,7 @@
 
 #include "ui/widgets/grip_splitter.h"
 
+#include <cstddef>
 #include <vector>
 
 class CommandControllerBase;
@@ -10,6 +11,7 @@ class CommandMainWidgetBase;
 class CommandsListController;
 class MirvantaApp;
 class NoCommandsWidget;
+class QLabel;
 class QPushButton;
 class QSettings;
 class QStackedLayout;
@@ -28,6 +30,9 @@ public:
 
     /// Shows the page of the editor, or with null the one that says why there is none.
     void show_page(CommandControllerBase* editor);
+
+    /// Tells how many of the selected items are taken by their names alone; nothing for none.
+    void show_silent_items(std::size_t count);
 
     void show_save_button(bool visible);
     void enable_delete_button(bool enabled);
@@ -61,6 +66,7 @@ private:
     QPushButton* save_ = nullptr;
     QPushButton* duplicate_ = nullptr;
     QPushButton* delete_ = nullptr;
+    QLabel* silent_items_ = nullptr;
     QStackedLayout* pages_ = nullptr;
     NoCommandsWidget* no_command_ = nullptr;
     std::vector<CommandMainWidgetBase*> editor_pages_;

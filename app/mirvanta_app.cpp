@@ -145,13 +145,14 @@ void MirvantaApp::on_context_menu_selected(int command_index, const QStringList&
     });
 }
 
-void MirvantaApp::take_selection(int command_index, const QStringList& paths)
+void MirvantaApp::take_selection(int command_index, const std::shared_ptr<NewSelection>& selection)
 {
     const auto command = active_list().current_command();
     log_failures([&] {
-        enter_selection(*selected_items_, paths);
+        selected_items_->swap(selection->items);
+        ui_->show_silent_items(selection->silent);
         if (!selected_items_->items().empty())
-            exemplar_.set_item(selected_items_->items().front());
+            exemplar_.set_item(standing_alone(*selected_items_->items().front()));
         if (command_index >= 0) {
             lists_.activate(menu_list());
             awaited_row_ = command_index;

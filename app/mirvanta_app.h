@@ -74,8 +74,9 @@ public slots:
     /// Closes the dialog. Nothing is saved, nothing is asked.
     void on_cancel();
     void on_help();
-    /// A selection has come: shows the window, tells the current editor, and takes the selection once its paths
-    /// answer and nobody reads the old one. `command_index` is a row of the menu list, negative for none.
+    /// A selection has come: shows the window, tells the current editor, and takes the selection once its paths have
+    /// answered or had their time and nobody reads the old one. `command_index` is a row of the menu list, negative
+    /// for none.
     void on_context_menu_selected(int command_index, const QStringList& paths);
     /// The current command's fields changed.
     void current_command_index_changed();
@@ -106,7 +107,7 @@ private:
     void refresh_save_and_delete();
     void show_save_and_delete();
     void select_loaded(bool usable, const std::shared_ptr<VellumarkCommand>& last);
-    void take_selection(int command_index, const QStringList& paths);
+    void take_selection(int command_index, const std::shared_ptr<NewSelection>& selection);
 
     std::shared_ptr<MVItemsSet> selected_items_;
     UndoSteps steps_;

@@ -1,61 +1,46 @@
 #include "app/path_probe.h"
 
-#include "platform/files.h"
+#include "app/path_looks.h"
+#include "app/selection_paths.h"
 #include "ui/text.h"
 
 #include <QDebug>
 
-#include <atomic>
-#include <exception>
 #include <mutex>
+#include <system_error>
 #include <thread>
 #include <utility>
+#include <vector>
 
 struct PathProbe::Run {
-    Run(PathProbe& probe, quint64 number_of_run, int index, QStringList selected)
-        : look(probe.look_), number(number_of_run), command_index(index), paths(std::move(selected)), receiver(&probe)
+    Run(PathProbe& probe, quint64 number_of_run, int index)
+        : number(number_of_run), command_index(index), receiver(&probe)
     {}
 
     /// On the run's thread.
-    void look_at_all()
+    void end(std::shared_ptr<NewSelection> read)
     {
-        for (const QString& path : paths) {
-            if (is_forgotten)
-                return;
-            look_at(path);
-        }
         const std::lock_guard lock(mutex);
+        selection = std::move(read);
         if (receiver)
             emit receiver->run_ended(number, QPrivateSignal());
     }
 
     void forget()
     {
-        is_forgotten = true;
         const std::lock_guard lock(mutex);
         receiver = nullptr;
     }
 
-    void look_at(const QString& path) const
-    {
-        try {
-            look(path);
-        } catch (const std::exception& error) {
-            // Who enters the path meets it again, and can tell of it.
-            qDebug() << "A path can't be looked at:" << error.what();
-        }
-    }
-
-    const Look look;
     const quint64 number;
     const int command_index;
-    const QStringList paths;
-    std::atomic<bool> is_forgotten = false;
     std::mutex mutex;
     PathProbe* receiver; ///< null once the run is forgotten
+    std::shared_ptr<NewSelection> selection;
 };
 
-PathProbe::PathProbe(Look look, QObject* parent) : QObject(parent), look_(std::move(look))
+PathProbe::PathProbe(Look look, std::chrono::milliseconds patience, QObject* parent)
+    : QObject(parent), looks_(std::make_shared<PathLooks>(std::move(look), patience))
 {
     connect(this, &PathProbe::run_ended, this, &PathProbe::tell, Qt::QueuedConnection);
 }
@@ -65,21 +50,23 @@ PathProbe::~PathProbe()
     forget();
 }
 
-void PathProbe::read_attributes(const QString& path)
+std::optional<platform::FileAttributes> PathProbe::read_attributes(const QString& path)
 {
-    platform::file_attributes(from_qstring(path));
+    return MVItemsSet::attributes_of(from_qstring(path));
 }
 
 void PathProbe::start(int command_index, const QStringList& paths)
 {
-    auto run = std::make_shared<Run>(*this, ++runs_, command_index, paths);
     forget();
-    run_ = std::move(run);
+    run_ = std::make_shared<Run>(*this, ++runs_, command_index);
+    looks_->want(runs_);
     try {
-        std::thread([run = run_] { run->look_at_all(); }).detach();
-    } catch (const std::exception& error) {
+        std::thread([run = run_, looks = looks_, paths] {
+            run->end(select_paths(paths, looks->answers_of(run->number, paths)));
+        }).detach();
+    } catch (const std::system_error& error) {
         qDebug() << "No thread to look at the paths:" << error.what();
-        emit run_ended(runs_, QPrivateSignal());
+        run_->end(select_paths(paths, std::vector<PathAnswer>(static_cast<std::size_t>(paths.size()))));
     }
 }
 
@@ -90,11 +77,12 @@ void PathProbe::tell(quint64 number)
         return;
     const std::shared_ptr<const Run> run = run_;
     forget();
-    emit answered(run->command_index, run->paths);
+    emit answered(run->command_index, run->selection);
 }
 
 void PathProbe::forget()
 {
+    looks_->want(0);
     if (const auto run = std::exchange(run_, nullptr))
         run->forget();
 }

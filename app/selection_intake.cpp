@@ -29,10 +29,10 @@ void SelectionIntake::expect()
     stop_readers();
 }
 
-void SelectionIntake::take(int command_index, const QStringList& paths)
+void SelectionIntake::take(int command_index, std::shared_ptr<NewSelection> selection)
 {
     is_expected_ = false;
-    waiting_ = Selection{command_index, paths};
+    waiting_ = Waiting{command_index, std::move(selection)};
     proceed();
 }
 
@@ -43,9 +43,9 @@ void SelectionIntake::proceed()
     stop_readers();
     if (std::ranges::any_of(readers_, &SelectionReader::is_reading))
         return;
-    const Selection selection = std::move(*waiting_);
+    const Waiting taken = std::move(*waiting_);
     waiting_.reset();
-    emit selection_ready(selection.command_index, selection.paths);
+    emit selection_ready(taken.command_index, taken.selection);
 }
 
 void SelectionIntake::stop_readers()

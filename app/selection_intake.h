@@ -3,10 +3,12 @@
 #include "ui/selection_reader.h"
 
 #include <QObject>
-#include <QStringList>
 
+#include <memory>
 #include <optional>
 #include <vector>
+
+struct NewSelection;
 
 /// Takes selections as they arrive and lets the newest one through as soon as nobody reads the old one: the readers
 /// at work are asked to stop, nothing waits for them. Main thread only.
@@ -28,17 +30,17 @@ public:
 
 public slots:
     /// A selection has come. It replaces, with its index, one that still waits.
-    void take(int command_index, const QStringList& paths);
+    void take(int command_index, std::shared_ptr<NewSelection> selection);
 
 signals:
     /// Nobody reads the selection now: the slot changes it before it returns. Comes from within `take` when nobody
     /// was reading.
-    void selection_ready(int command_index, QStringList paths);
+    void selection_ready(int command_index, std::shared_ptr<NewSelection> selection);
 
 private:
-    struct Selection {
+    struct Waiting {
         int command_index;
-        QStringList paths;
+        std::shared_ptr<NewSelection> selection;
     };
 
     /// Lets the waiting selection through, or asks those who still read to stop.
@@ -47,6 +49,6 @@ private:
     void stop_readers();
 
     bool is_expected_ = false;
-    std::optional<Selection> waiting_;
+    std::optional<Waiting> waiting_;
     std::vector<SelectionReader*> readers_;
 };

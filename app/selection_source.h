@@ -19,8 +19,8 @@ public:
     /// From here on who sends a selection is refused, and starts the program anew.
     void end();
 
-    /// A selection has arrived: `ready` follows with it, or with the next one in its place, unless a path never
-    /// answers. Whoever reads the one before is asked to stop.
+    /// A selection has arrived: `ready` follows with it, or with the next one in its place. Whoever reads the one
+    /// before is asked to stop.
     void take(int command_index, const QStringList& paths);
 
     /// Whether a selection has been taken that is still on its way to `ready`. False within that signal, unless a
@@ -33,9 +33,9 @@ signals:
     /// A selection came in by the pipe. Whoever wants it calls `take`. `command_index` is a row of the menu list,
     /// negative for none.
     void arrived(int command_index, QStringList paths);
-    /// The newest selection's paths have answered and nobody reads the one before: the slot changes it before it
-    /// returns.
-    void ready(int command_index, QStringList paths);
+    /// The newest selection's paths have answered or had their time, and nobody reads the one before: the slot takes
+    /// the items of `selection` before it returns.
+    void ready(int command_index, std::shared_ptr<NewSelection> selection);
 
 private:
     PathProbe probe_;

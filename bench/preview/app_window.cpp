@@ -46,8 +46,13 @@ void AppWindow::select(const std::vector<std::u16string>& paths)
     QStringList list;
     for (const std::u16string& path : paths)
         list += to_qstring(path);
-    app_->on_context_menu_selected(-1, list);
-    run_until([&] { return app_->selected_items()->items().size() == paths.size(); });
+    select(list);
+}
+
+void AppWindow::select(const QStringList& paths)
+{
+    app_->on_context_menu_selected(-1, paths);
+    run_until([&] { return app_->selected_items()->items().size() == static_cast<std::size_t>(paths.size()); });
     wait_for_text();
     run_until([&] { return !edit().is_filling(); });
 }

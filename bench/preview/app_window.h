@@ -21,6 +21,7 @@ public:
     PreviewTextEdit& edit() { return *app_->findChild<PreviewTextEdit*>(); }
 
     /// As another program sends it; returns when its text shows.
+    void select(const QStringList& paths);
     void select(const std::vector<std::u16string>& paths);
     /// Changes the command's separator, as each key does in its box.
     void type(const std::u16string& separator);

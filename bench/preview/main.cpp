@@ -9,6 +9,7 @@ int main(int argc, char* argv[])
     Report report;
     measure_key_strokes(report);
     measure_big_texts(report);
+    measure_selections(report);
     measure_progress(report);
     return report.missed() ? 1 : 0;
 }

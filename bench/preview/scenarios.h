@@ -9,5 +9,8 @@ void measure_big_texts(Report& report);
 /// From a change of the command to the new text in the application's window, with 10,000 files.
 void measure_key_strokes(Report& report);
 
+/// The application's window taking selections of 100,000 files, one after the other.
+void measure_selections(Report& report);
+
 /// What a run costs more when somebody looks at its progress.
 void measure_progress(Report& report);

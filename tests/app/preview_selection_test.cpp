@@ -1,5 +1,5 @@
 #include "app/selection_intake.h"
-#include "app/selection_paths.h"
+#include "read_selection.h"
 #include "support/preview_fixture.h"
 #include "ui/text.h"
 
@@ -15,11 +15,12 @@ protected:
     {
         for (int i = 0; i < 20; ++i)
             paths_ += to_qstring(folder_.write("f" + std::to_string(i), std::string(5'000, 'x')));
-        QObject::connect(&intake_, &SelectionIntake::selection_ready, [this](int, const QStringList& paths) {
-            EXPECT_FALSE(generator_ && generator_->is_reading());
-            enter_selection(*items_, paths);
-            refresh();
-        });
+        QObject::connect(&intake_, &SelectionIntake::selection_ready,
+                         [this](int, const std::shared_ptr<NewSelection>& selection) {
+                             EXPECT_FALSE(generator_ && generator_->is_reading());
+                             items_->swap(selection->items);
+                             refresh();
+                         });
         renew_generator();
     }
 
@@ -44,7 +45,7 @@ protected:
     {
         switch (what % 8) {
         case 0:
-        case 1: intake_.take(-1, paths_.mid(what % 7, 1 + what % 13)); return;
+        case 1: intake_.take(-1, read_selection(paths_.mid(what % 7, 1 + what % 13))); return;
         case 2: command_ = nullptr; break;
         case 3: command_ = names(); break;
         case 4: command_ = checksums(); break;
@@ -74,12 +75,12 @@ TEST_F(PreviewSelectionTest, LastOfManySelectionsStopsTheRunAndIsShown)
 {
     PreviewLog log(*generator_);
     command_ = checksums();
-    intake_.take(0, {to_qstring(folder_.write_endless("endless"))});
+    intake_.take(0, read_selection({to_qstring(folder_.write_endless("endless"))}));
     EXPECT_TRUE(generator_->is_reading());
     EXPECT_FALSE(intake_.is_selection_waiting()) << "nobody was reading";
     command_ = names();
     for (int i = 0; i < 100; ++i)
-        intake_.take(0, paths_.mid(i % 18, 2));
+        intake_.take(0, read_selection(paths_.mid(i % 18, 2)));
     EXPECT_TRUE(settles_all());
     std::string texts = log.text();
     std::erase(texts, '.');
@@ -98,7 +99,7 @@ TEST_F(PreviewSelectionTest, SurvivesAnythingAtAnyMoment)
     }
     generator_->resume();
     command_ = names();
-    intake_.take(-1, paths_.mid(4, 3));
+    intake_.take(-1, read_selection(paths_.mid(4, 3)));
     EXPECT_TRUE(settles_all());
     EXPECT_EQ(generator_->text(), "f4,f5,f6");
 }

@@ -1,4 +1,6 @@
 #include "app/selection_intake.h"
+#include "app/selection_paths.h"
+#include "engine/text/utf.h"
 
 #include <gtest/gtest.h>
 
@@ -40,12 +42,26 @@ class SelectionIntakeTest : public testing::Test
 protected:
     SelectionIntakeTest()
     {
-        QObject::connect(&intake_, &SelectionIntake::selection_ready, [this](int index, const QStringList& paths) {
+        const auto note = [this](int index, const std::shared_ptr<NewSelection>& selection) {
             EXPECT_FALSE(intake_.is_selection_waiting());
-            history_ += std::to_string(index) + ":" + paths.join(',').toStdString() + " ";
+            history_ += std::to_string(index) + ":";
+            for (const auto& item : selection->items.items())
+                history_ += to_utf8(item->name());
+            history_ += " ";
             if (after_change_)
                 after_change_();
-        });
+        };
+        QObject::connect(&intake_, &SelectionIntake::selection_ready, note);
+    }
+
+    /// A selection of files, each named by one letter, arrives.
+    void take(int index, std::string_view names)
+    {
+        auto selection = std::make_shared<NewSelection>();
+        for (const char name : names)
+            selection->items.add_path(std::u16string(u"C:\\") + static_cast<char16_t>(name),
+                                      platform::FileAttributes{});
+        intake_.take(index, selection);
     }
 
     /// All that has been let through, once events are processed.
@@ -65,31 +81,31 @@ protected:
 TEST_F(SelectionIntakeTest, NewestOneIsTakenWhenAllReadersHaveEnded)
 {
     Reader first(intake_), second(intake_);
-    intake_.take(1, {"a", "b"});
-    intake_.take(-1, {"c"});
-    EXPECT_EQ(history_, "1:a,b -1:c ") << "nobody reads";
+    take(1, "ab");
+    take(-1, "c");
+    EXPECT_EQ(history_, "1:ab -1:c ") << "nobody reads";
     first.start();
-    intake_.take(3, {"a"});
+    take(3, "a");
     EXPECT_TRUE(intake_.is_selection_waiting());
     second.start();
-    intake_.take(4, {"b"});
-    intake_.take(-1, {"d"});
+    take(4, "b");
+    take(-1, "d");
     first.end();
-    EXPECT_EQ(settled(), "1:a,b -1:c ");
+    EXPECT_EQ(settled(), "1:ab -1:c ");
     second.end();
-    EXPECT_EQ(history_, "1:a,b -1:c ") << "not inside the reader's own call";
-    EXPECT_EQ(settled(), "1:a,b -1:c -1:d ");
+    EXPECT_EQ(history_, "1:ab -1:c ") << "not inside the reader's own call";
+    EXPECT_EQ(settled(), "1:ab -1:c -1:d ");
 }
 
 TEST_F(SelectionIntakeTest, ReaderThatIsStartedAgainAfterEachChange)
 {
     Reader reader(intake_);
     after_change_ = [&] { reader.start(); };
-    intake_.take(0, {"a"});
+    take(0, "a");
     for (int round = 1; round <= 3; ++round) {
         history_.clear();
         for (int message = 0; message < 20; ++message)
-            intake_.take(message, {QString::number(round)});
+            take(message, std::to_string(round));
         reader.end();
         EXPECT_EQ(settled(), "19:" + std::to_string(round) + " ");
     }
@@ -100,7 +116,7 @@ TEST_F(SelectionIntakeTest, ReaderThatGoesHoldsNothingUp)
     {
         Reader reader(intake_);
         reader.start();
-        intake_.take(0, {"a"});
+        take(0, "a");
         EXPECT_EQ(settled(), "");
     }
     EXPECT_EQ(settled(), "0:a ");

@@ -1,6 +1,6 @@
 #include "app/mirvanta_named_pipe_server.h"
-#include "app/selection_paths.h"
 #include "debug_log.h"
+#include "read_selection.h"
 #include "support/temp_folder.h"
 #include "ui/text.h"
 
@@ -67,12 +67,12 @@ TEST(SelectionMessage, EveryFileOfTheHostCanBeSelected)
             message += "\\u" + QByteArray::number(unit, 16).rightJustified(4, '0');
         const DebugLog log;
         Serving<MirvantaNamedPipeServer> server;
-        MVItemsSet selection;
+        std::shared_ptr<NewSelection> selection;
         QObject::connect(&server, &MirvantaNamedPipeServer::context_menu_selected,
-                         [&](int, const QStringList& paths) { enter_selection(selection, paths); });
+                         [&](int, const QStringList& paths) { selection = read_selection(paths); });
         message += "\"]}";
         server.message_received({message.begin(), message.end()});
-        EXPECT_EQ(selection.items().size(), 1u) << name;
+        EXPECT_EQ(selection->items.items().size(), 1u) << name;
     }
 }
 
@@ -81,12 +81,9 @@ TEST(SelectionMessage, EnteringLeavesOutWhatCanNotBeAdded)
     const TempFolder folder;
     const QString file = to_qstring(folder.write("a%2"));
     const QString gone = to_qstring(folder.path("gone%1"));
-    MVItemsSet selection;
     const DebugLog log;
-    enter_selection(selection, {file, file});
-    EXPECT_EQ(selection.items().size(), 2u);
-    enter_selection(selection, {"relative", gone, file});
-    EXPECT_EQ(selection.items().size(), 1u);
+    EXPECT_EQ(read_selection({file, file})->items.items().size(), 2u);
+    EXPECT_EQ(read_selection({"relative", gone, file})->items.items().size(), 1u);
     EXPECT_EQ(DebugLog::text(), "Exception adding path 'relative': Path not absolute|Exception adding path '" +
                                     gone.toStdString() + "': GetFileAttributesEx failed");
 }

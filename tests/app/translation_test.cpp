@@ -1,6 +1,8 @@
 #include "app_test.h"
 
+#include "app/main_app_ui.h"
 #include "support/becomes.h"
+#include "support/visible_labels.h"
 #include "ui/dialogs/change_command_name_dlg.h"
 #include "ui/lists/commands_list_model.h"
 #include "ui/lists/commands_list_widget.h"
@@ -125,6 +127,8 @@ TEST_F(AppTest, ShowsNothingUntranslatedAndNothingCut)
     open();
     EXPECT_EQ(findings(*app), "");
     app->new_command_btn_pressed();
+    app->findChild<MainAppUi*>()->show_silent_items(3);
+    EXPECT_NE(visible_labels(*app).find("3 item(s) did not answer"), std::string::npos);
     app->resize(0, 0);
     EXPECT_EQ(findings(*app), "");
     for (const CommandsListWidget* list : app->findChildren<CommandsListWidget*>())

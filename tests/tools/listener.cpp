@@ -1,7 +1,6 @@
 #include "app/mirvanta_named_pipe_server.h"
-#include "app/selection_intake.h"
-#include "app/selection_paths.h"
 #include "platform/paths.h"
+#include "read_selection.h"
 
 #include <QCoreApplication>
 
@@ -42,17 +41,14 @@ int main(int argc, char* argv[])
     QCoreApplication application(argc, argv);
     append("LISTENER_STARTS", std::to_string(getpid()) + "\n");
     const std::string most = variable("LISTENER_MOST");
-    MVItemsSet selection;
-    SelectionIntake intake;
     Serving<MirvantaNamedPipeServer> server;
     int count = 0;
-    QObject::connect(&server, &MirvantaNamedPipeServer::context_menu_selected, &intake, &SelectionIntake::take);
-    QObject::connect(&intake, &SelectionIntake::selection_ready, [&](int index, const QStringList& paths) {
-        enter_selection(selection, paths);
-        append("LISTENER_SELECTIONS", record(index, selection));
+    const auto take = [&](int index, const QStringList& paths) {
+        append("LISTENER_SELECTIONS", record(index, read_selection(paths)->items));
         if (std::to_string(++count) == most)
             QCoreApplication::quit();
-    });
+    };
+    QObject::connect(&server, &MirvantaNamedPipeServer::context_menu_selected, &application, take);
     server.start();
     return QCoreApplication::exec();
 }
