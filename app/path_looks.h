@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/path_answer.h"
+#include "app/path_queue.h"
 
 #include <QStringList>
 
@@ -47,11 +48,6 @@ private:
     /// The paths of one selection.
     struct Round;
 
-    /// Paths of a round that nobody has been asked yet, by their indices.
-    struct Range {
-        std::size_t begin = 0, end = 0;
-    };
-
     /// Who gets the answer of a path.
     struct Asker {
         std::shared_ptr<Round> round;
@@ -61,7 +57,7 @@ private:
     /// A thread and what it is at.
     struct Worker {
         std::shared_ptr<Round> round;
-        Range rest;                ///< of the round, for this thread to ask next
+        PathQueue::Range rest;     ///< of the round, for this thread to ask next
         QString path;              ///< that is being asked
         std::vector<Asker> askers; ///< of the path; empty when none is being asked
         Clock::time_point asked_at, deadline;
@@ -73,19 +69,16 @@ private:
     std::chrono::milliseconds step() const { return patience_ / 100; }
 
     bool is_over(const Round& round) const;
-    void share_out(Round& round);
+    void start(Round& round);
+    bool go_on(Round& round, Clock::duration without_answer);
+    void note_silent_folders(Round& round) const;
     void add_workers(const Round& round, std::size_t number);
     void start_worker();
-    bool relieve_silent_workers(Round& round);
-    void note_silent_folders(Round& round) const;
-    static bool is_in_silent_folder(const Round& round, const QString& path);
-    bool will_ask_put_off(const Round& round) const;
-    void release_put_off(Round& round, Clock::time_point last_answer) const;
 
     void work(Workers::iterator worker);
     bool take_next(Worker& worker);
-    std::optional<std::size_t> next_index(Worker& worker);
-    bool shares_look(const Asker& asker, const QString& path);
+    bool ask(Worker& worker, std::size_t index);
+    bool shares_look(const Asker& asker);
     Attributes look_at(const QString& path) const;
     void tell(Worker& worker, const Attributes& attributes);
 
