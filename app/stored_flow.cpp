@@ -172,8 +172,8 @@ bool StoredFlow::merge()
         return false;
     try {
         // A file that is gone meanwhile stands in nobody's way.
-        if (commands_file::Loaded theirs = reading.take(); theirs.text)
-            stored_.merge(std::move(theirs));
+        if (const commands_file::Loaded theirs = reading.take(); theirs.text)
+            stored_.merge(theirs);
     } catch (const std::exception& error) {
         MessageBoxes::show_failure(&window_, MessageBoxes::tr("Failed to load stored commands"), error);
         return false;

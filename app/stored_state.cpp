@@ -1,7 +1,9 @@
 #include "app/stored_state.h"
 
+#include "app/renewed_list.h"
 #include "store/commands_merge.h"
 #include "store/preset_followers.h"
+#include "store/written_forms.h"
 #include "ui/lists/command_lists.h"
 #include "ui/lists/commands_list_model.h"
 #include "ui/lists/undo_move_command_between_lists.h"
@@ -9,63 +11,14 @@
 
 #include <QCoreApplication>
 
-#include <algorithm>
-
 namespace {
 
-/// A command that a list can edit, whose saved form is `saved`.
-std::shared_ptr<MVCommandBase> edited(const std::shared_ptr<MVCommandBase>& saved)
+/// What was read, as the saved forms of what the lists show.
+StoredCommands saved_forms(const StoredCommands& read, CommandLists& lists)
 {
-    auto command = saved->clone();
-    command->set_committed(saved);
-    return command;
-}
-
-/// The commands as a list can edit them: clones in the place of those that are saved forms.
-CommandList edited(CommandList list, const CommandList& saved)
-{
-    for (auto& command : list)
-        if (std::ranges::find(saved, command) != saved.end())
-            command = edited(command);
-    return list;
-}
-
-/// What the file holds now, made of the commands that are shown where these are the same. One from the last session
-/// that still isn't in the file stays behind the others.
-CommandList renewed(const CommandList& shown, const CommandList& saved)
-{
-    CommandList rest = shown, result;
-    for (const auto& command : saved) {
-        const auto same = std::ranges::find_if(rest, [&](const auto& other) { return other->equals(*command); });
-        if (same == rest.end()) {
-            result.push_back(edited(command));
-            continue;
-        }
-        (*same)->set_from_previous_session(false);
-        (*same)->set_committed(command);
-        result.push_back(std::move(*same));
-        rest.erase(same);
-    }
-    std::ranges::copy_if(rest, std::back_inserter(result), &MVCommandBase::from_previous_session);
-    return result;
-}
-
-/// The list with the row of its current command, of that command's other form, or of what stands there now.
-ListState state_of(CommandList commands, const CommandsListController& list)
-{
-    const auto row_of = [&commands](const auto& fits) {
-        const auto found = std::ranges::find_if(commands, fits);
-        return found == commands.end() ? -1 : static_cast<int>(found - commands.begin());
-    };
-    const auto& current = list.current_command();
-    int row = row_of([&](const auto& command) { return command == current; });
-    if (row < 0 && current)
-        row = row_of([&](const auto& command) {
-            return command->type() == current->type() && command->name() == current->name();
-        });
-    if (row < 0)
-        row = std::min(std::max(list.current_index(), 0), static_cast<int>(commands.size()) - 1);
-    return {std::move(commands), row};
+    return {.menu = written_forms::saved_forms(read.menu, lists.menu().commands()),
+            .library = written_forms::saved_forms(read.library, lists.library().commands()),
+            .presets = read.presets};
 }
 
 }
@@ -129,23 +82,23 @@ bool StoredState::is_news(const commands_file::Loaded& loaded) const
 void StoredState::take_over(const commands_file::Loaded& loaded)
 {
     set_known(loaded);
-    const StoredCommands& saved = loaded.commands;
-    push_lists({renewed(lists_.menu().commands(), saved.menu), renewed(lists_.library().commands(), saved.library),
-                saved.presets},
+    const StoredCommands saved = saved_forms(loaded.commands, lists_);
+    push_lists({renewed_list::renewed(lists_.menu().commands(), saved.menu),
+                renewed_list::renewed(lists_.library().commands(), saved.library), saved.presets},
                saved, QCoreApplication::translate("MirvantaApp", "Reload Commands"));
 }
 
-void StoredState::merge(commands_file::Loaded loaded)
+void StoredState::merge(const commands_file::Loaded& loaded)
 {
-    StoredCommands& theirs = loaded.commands;
+    StoredCommands theirs = saved_forms(loaded.commands, lists_);
     const CommandsListController &menu = lists_.menu(), &library = lists_.library();
     const StoredCommands base{menu.model().saved_commands(), library.model().saved_commands(), presets_.saved()};
     // An empty menu stands for the default commands, and says nothing of what was deleted.
     if (theirs.menu.empty())
         theirs.menu = base.menu;
     StoredCommands merged = merge_commands(base, {menu.commands(), library.commands(), presets_.working()}, theirs);
-    merged.menu = edited(std::move(merged.menu), theirs.menu);
-    merged.library = edited(std::move(merged.library), theirs.library);
+    merged.menu = renewed_list::edited(std::move(merged.menu), theirs.menu);
+    merged.library = renewed_list::edited(std::move(merged.library), theirs.library);
     set_known(loaded);
     push_lists(merged, theirs, QCoreApplication::translate("MirvantaApp", "Merge Commands"));
 }
@@ -163,9 +116,14 @@ void StoredState::push_lists(const StoredCommands& commands, const StoredCommand
     CommandsListController &menu = lists_.menu(), &library = lists_.library();
     menu.model().set_saved_form(saved.menu);
     library.model().set_saved_form(saved.library);
+    // Which commands are unsaved, or of the last session, may be another matter though the lists are the same.
+    menu.model().refresh_rows();
+    library.model().refresh_rows();
     if (commands.menu != menu.commands() || commands.library != library.commands())
-        lists_.steps().stack().push(new UndoMoveCommandBetweenLists(lists_, state_of(commands.menu, menu),
-                                                                    state_of(commands.library, library), text));
+        lists_.steps().stack().push(
+            new UndoMoveCommandBetweenLists(lists_, renewed_list::state_of(commands.menu, menu),
+                                            renewed_list::state_of(commands.library, library), text));
+    // Their signal has Save looked at as well.
     presets_.set_saved(saved.presets);
     presets_.set_working(commands.presets);
 }

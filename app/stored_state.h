@@ -36,12 +36,12 @@ public:
     /// Whether there is a file now that says something else than the one that is known here.
     bool is_news(const commands_file::Loaded& loaded) const;
 
-    /// Replaces lists without changes of their own, and the presets, by what another program has saved. Commands that
-    /// stay the same stay the same objects. One step of undo.
+    /// Replaces lists without changes of their own, as one step of undo, and the presets, by what another program has
+    /// saved. Commands of which the file says the same stay as they are.
     void take_over(const commands_file::Loaded& loaded);
 
     /// Merges what another program has saved into the lists, as one step of undo, and into the presets.
-    void merge(commands_file::Loaded loaded);
+    void merge(const commands_file::Loaded& loaded);
 
 private:
     void set_known(const commands_file::Loaded& loaded);

@@ -2,6 +2,7 @@
 
 #include "engine/text/utf.h"
 #include "store/three_way_merge.h"
+#include "store/written_forms.h"
 
 #include <set>
 #include <string>
@@ -30,7 +31,7 @@ private:
     std::set<std::u16string> names_;
 };
 
-/// A command with what a file would hold of it, by which it is compared: what isn't written is no difference.
+/// A command with the form by which it is compared.
 struct Compared {
     std::shared_ptr<MVCommandBase> command;
     std::string form;
@@ -77,7 +78,7 @@ std::vector<Compared> compared(const CommandList& list)
     std::vector<Compared> result;
     result.reserve(list.size());
     for (const auto& command : list)
-        result.push_back({command, serialize(command->to_json())});
+        result.push_back({command, written_forms::form_of(*command)});
     return result;
 }
 

@@ -2,9 +2,11 @@
 #include "app_test.h"
 #include "box_answer.h"
 #include "support/becomes.h"
-#include "ui/lists/commands_list_controller.h"
+#include "engine/commands/vellumark_command.h"
+#include "ui/lists/commands_list_model.h"
 
 #include <QApplication>
+#include <QSignalSpy>
 #include <QTimer>
 
 #include <filesystem>
@@ -110,6 +112,25 @@ TEST_F(AppTest, TakesOverWhatOthersSaveAsLongAsItHasNoChanges)
     const BoxAnswer box({"Merge"});
     EXPECT_TRUE(app->save_commands_list());
     EXPECT_EQ(flat(commands_file::load()), "menu[E, A, B, More, Z] library[L hidden] presets[]");
+}
+
+TEST_F(AppTest, WhatTheFileSaysOfNothingStaysWhenOthersSave)
+{
+    const auto shows = [this](std::string_view expected) { return becomes([&] { return state() == expected; }); };
+    store("A, More");
+    run_last("Z");
+    open();
+    const QSignalSpy painted(&app->menu_list().model(), &QAbstractItemModel::dataChanged);
+    store("A, More, Z");
+    EXPECT_TRUE(shows("menu[A, More, *Z] library[]")) << state();
+    EXPECT_FALSE(painted.isEmpty() || app->undo_stack().canUndo());
+    // Nobody asks for the depth: there is no limit.
+    const auto command = std::dynamic_pointer_cast<VellumarkCommand>(app->menu_list().command_at(0));
+    command->set_max_folder_depth(5);
+    EXPECT_TRUE(app->save_commands_list());
+    store("B, A, More, Z");
+    EXPECT_TRUE(shows("menu[B, A, More, *Z] library[]")) << state();
+    EXPECT_EQ(app->menu_list().command_at(1), command);
 }
 
 TEST_F(AppTest, ADiskThatHangsHoldsUpNothing)
