@@ -4,28 +4,20 @@
 #include "app/list_edits.h"
 #include "app/message_boxes.h"
 #include "app/stored_state.h"
-#include "platform/paths.h"
-#include "store/mv_config.h"
 #include "ui/lists/command_lists.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QDebug>
-#include <QEvent>
-#include <QFile>
-#include <QFileInfo>
 #include <QScopedValueRollback>
+#include <QTimer>
 #include <QWidget>
 
 #include <atomic>
-#include <chrono>
 #include <stdexcept>
 #include <utility>
 
 namespace {
-
-/// Between a change of the files and the look at them: programs write in several steps.
-constexpr std::chrono::milliseconds time_to_rest{100};
 
 /// Whether what is typed there would be lost with its row.
 bool is_edit_of_row(const QWidget* focus)
@@ -38,15 +30,9 @@ bool is_edit_of_row(const QWidget* focus)
 
 StoredFlow::StoredFlow(QWidget& window, CommandLists& lists, StoredState& stored, StoredFiles files)
     : window_(window), lists_(lists), stored_(stored), files_(std::move(files)),
-      start_([files = files_] { return read_start(files); })
+      start_([files = files_] { return read_start(files); }), watch_(window, files_.load)
 {
-    look_timer_.setSingleShot(true);
-    look_timer_.setInterval(time_to_rest);
-    const auto look_soon = [this] { look_timer_.start(); };
-    connect(&watcher_, &QFileSystemWatcher::directoryChanged, this, look_soon);
-    connect(&watcher_, &QFileSystemWatcher::fileChanged, this, look_soon);
-    connect(&look_timer_, &QTimer::timeout, this, &StoredFlow::look);
-    window_.installEventFilter(this);
+    connect(&watch_, &StoredWatch::read, this, &StoredFlow::take_over);
 }
 
 StoredFlow::Start StoredFlow::read_start(const StoredFiles& files)
@@ -90,9 +76,9 @@ void StoredFlow::wait_for_start()
 void StoredFlow::take_start()
 {
     const bool is_late = std::exchange(has_loaded_, true);
+    watch_.start();
     try {
         Start start = start_.take();
-        watch();
         if (is_late) {
             take_over(start.commands);
             return;
@@ -145,7 +131,7 @@ StoredFlow::Written StoredFlow::write(bool over_all)
         if (!write_file(saving))
             return Written::FoundOther;
         stored_.mark_saved(saving);
-        watch();
+        watch_.file_written();
         return Written::Yes;
     } catch (const std::exception& error) {
         MessageBoxes::show_failure(&window_, MessageBoxes::tr("Failed to save stored commands"), error);
@@ -206,45 +192,6 @@ void StoredFlow::call_off()
 {
     if (question_)
         question_->reject();
-}
-
-bool StoredFlow::eventFilter(QObject* watched, QEvent* event)
-{
-    // A disk of another machine tells nobody of a change there.
-    if (event->type() == QEvent::WindowActivate)
-        look_timer_.start();
-    return QObject::eventFilter(watched, event);
-}
-
-/// The file itself is another one after each save.
-void StoredFlow::watch()
-{
-    const std::u16string path = MVConfig::get_global().path(FileKind::UserCommands);
-    const QString file = QFile::decodeName(QByteArray::fromStdString(platform::to_host_path(path)));
-    watcher_.addPaths({file, QFileInfo(file).path()});
-}
-
-void StoredFlow::look()
-{
-    if (!has_loaded_)
-        return;
-    if (look_ && !look_->job().is_done()) {
-        look_timer_.start();
-        return;
-    }
-    look_ = std::make_unique<BackgroundValue<commands_file::Loaded>>(files_.load);
-    connect(&look_->job(), &BackgroundJob::done, this, &StoredFlow::take_news);
-}
-
-void StoredFlow::take_news()
-{
-    try {
-        take_over(look_->take());
-        watch();
-    } catch (const std::exception& error) {
-        // Half a file, say: the next change or the next save finds out.
-        qDebug() << "The commands that were changed can't be read:" << error.what();
-    }
 }
 
 void StoredFlow::take_over(const commands_file::Loaded& loaded)

@@ -1,12 +1,11 @@
 #pragma once
 
 #include "app/stored_files.h"
+#include "app/stored_watch.h"
 #include "ui/background_job.h"
 
 #include <QDialog>
-#include <QFileSystemWatcher>
 #include <QPointer>
-#include <QTimer>
 
 #include <memory>
 
@@ -43,8 +42,6 @@ public:
     /// Whoever is being asked so need not answer any more: the window is to stay.
     void call_off();
 
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 signals:
     /// Once. When the commands file can't be used the lists are empty, and the user is told once events are
     /// processed. `last` is the command of the last run, null for none; with `usable` false it is none.
@@ -70,9 +67,6 @@ private:
     /// Brings in what another program has saved. False when that can't be read, which the user is told, or the user
     /// doesn't want to wait for it.
     bool merge();
-    void watch();
-    void look();
-    void take_news();
     void take_over(const commands_file::Loaded& loaded);
 
     QWidget& window_;
@@ -83,7 +77,5 @@ private:
     bool has_loaded_ = false;
     bool is_busy_ = false; ///< while a save is on its way
     QPointer<QDialog> question_;
-    QFileSystemWatcher watcher_;
-    QTimer look_timer_; ///< runs from a change of the files until they have come to rest
-    std::unique_ptr<BackgroundValue<commands_file::Loaded>> look_; ///< the last one; null for none
+    StoredWatch watch_;
 };

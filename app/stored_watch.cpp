@@ -1,0 +1,107 @@
+#include "app/stored_watch.h"
+
+#include "platform/paths.h"
+#include "store/mv_config.h"
+
+#include <QDeadlineTimer>
+#include <QDebug>
+#include <QEvent>
+#include <QFile>
+#include <QFileInfo>
+#include <QFileSystemWatcher>
+#include <QThread>
+
+#include <chrono>
+#include <utility>
+
+namespace {
+
+/// Between a change of the files and the look at them: programs write in several steps.
+constexpr std::chrono::milliseconds time_to_rest{100};
+
+/// At the end, with a watcher that a disk holds up.
+constexpr std::chrono::milliseconds patience{200};
+
+/// The file itself is another one after each save, though the watcher takes it for the one that it knows.
+void watch_anew(QFileSystemWatcher& watcher)
+{
+    const std::u16string path = MVConfig::get_global().path(FileKind::UserCommands);
+    const QString file = QFile::decodeName(QByteArray::fromStdString(platform::to_host_path(path)));
+    watcher.removePath(file);
+    watcher.addPaths({file, QFileInfo(file).path()});
+}
+
+}
+
+StoredWatch::StoredWatch(QObject& window, std::function<commands_file::Loaded()> load)
+    : load_(std::move(load)), thread_(std::make_unique<QThread>()), watcher_(new QFileSystemWatcher)
+{
+    look_timer_.setSingleShot(true);
+    look_timer_.setInterval(time_to_rest);
+    const auto look_soon = [this] { look_timer_.start(); };
+    connect(watcher_, &QFileSystemWatcher::directoryChanged, this, look_soon);
+    connect(watcher_, &QFileSystemWatcher::fileChanged, this, look_soon);
+    connect(this, &StoredWatch::watch_wanted, watcher_, [watcher = watcher_] { watch_anew(*watcher); });
+    connect(thread_.get(), &QThread::finished, watcher_, &QObject::deleteLater);
+    connect(&look_timer_, &QTimer::timeout, this, &StoredWatch::look);
+    watcher_->moveToThread(thread_.get());
+    thread_->start();
+    window.installEventFilter(this);
+}
+
+StoredWatch::~StoredWatch()
+{
+    thread_->quit();
+    // One that hangs ends with the process.
+    if (!thread_->wait(QDeadlineTimer(patience)))
+        static_cast<void>(thread_.release());
+}
+
+void StoredWatch::start()
+{
+    is_started_ = true;
+    emit watch_wanted(QPrivateSignal());
+}
+
+void StoredWatch::file_written()
+{
+    is_outdated_ = is_reading_;
+    emit watch_wanted(QPrivateSignal());
+}
+
+bool StoredWatch::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::WindowActivate)
+        look_timer_.start();
+    return QObject::eventFilter(watched, event);
+}
+
+void StoredWatch::look()
+{
+    if (!is_started_)
+        return;
+    is_outdated_ = is_reading_;
+    if (std::exchange(is_reading_, true))
+        return;
+    reading_.emplace(load_);
+    connect(&reading_->job(), &BackgroundJob::done, this, &StoredWatch::take);
+}
+
+void StoredWatch::take()
+{
+    is_reading_ = false;
+    emit watch_wanted(QPrivateSignal());
+    if (std::exchange(is_outdated_, false)) {
+        look_timer_.start();
+        return;
+    }
+    commands_file::Loaded loaded;
+    try {
+        loaded = reading_->take();
+    } catch (const std::exception& error) {
+        // Half a file, say: the next change or the next save finds out.
+        qDebug() << "The commands that were changed can't be read:" << error.what();
+        return;
+    }
+    emit read(loaded);
+}
