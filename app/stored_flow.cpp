@@ -1,9 +1,9 @@
 #include "app/stored_flow.h"
 
-#include "app/busy_dlg.h"
 #include "app/list_edits.h"
 #include "app/message_boxes.h"
 #include "app/stored_state.h"
+#include "ui/dialogs/busy_dlg.h"
 #include "ui/lists/command_lists.h"
 
 #include <QAbstractItemView>

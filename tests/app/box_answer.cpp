@@ -1,6 +1,6 @@
 #include "box_answer.h"
 
-#include "app/busy_dlg.h"
+#include "ui/dialogs/busy_dlg.h"
 #include "ui/preview/wait_for_text_dlg.h"
 
 #include <QAbstractButton>

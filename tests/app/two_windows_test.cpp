@@ -1,8 +1,8 @@
-#include "app/busy_dlg.h"
 #include "app_test.h"
 #include "box_answer.h"
-#include "support/becomes.h"
 #include "engine/commands/vellumark_command.h"
+#include "support/becomes.h"
+#include "ui/dialogs/busy_dlg.h"
 #include "ui/lists/commands_list_model.h"
 
 #include <QApplication>

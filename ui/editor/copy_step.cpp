@@ -4,35 +4,13 @@
 #include "platform/clipboard.h"
 #include "store/last_command.h"
 #include "ui/background_job.h"
+#include "ui/dialogs/busy_dlg.h"
 #include "ui/dialogs/checksum_compare_dlg.h"
 #include "ui/text.h"
 
 #include <QDebug>
 #include <QEventLoopLocker>
 #include <QMessageBox>
-
-#include <chrono>
-
-namespace {
-
-/// Longer than another window's save takes; the program may end before a disk that takes longer.
-constexpr std::chrono::seconds patience_with_disk{2};
-
-/// The text is where the user wants it; without the file the next start just selects another command.
-void keep_as_last_run(const VellumarkCommand& command)
-{
-    const BackgroundJob job([copy = command] {
-        try {
-            write_last_command(copy);
-        } catch (const std::exception& error) {
-            qDebug() << "The last command can't be kept:" << error.what();
-        }
-    });
-    if (!job.wait(patience_with_disk))
-        qDebug() << "The last command isn't kept yet";
-}
-
-}
 
 // By value: a selection that comes during the comparison changes the caller's text and command.
 // NOLINTNEXTLINE(performance-unnecessary-value-param)
@@ -73,6 +51,20 @@ bool CopyStep::copy(std::u16string_view text)
     if (!opened)
         return warn(tr("Failed to open Windows clipboard"));
     return opened.replace_text(text) || warn(failed_to_copy());
+}
+
+void CopyStep::keep_as_last_run(const VellumarkCommand& command)
+{
+    // The text is where the user wants it; without the file the next start just selects another command.
+    const BackgroundJob job([copy = command] {
+        try {
+            write_last_command(copy);
+        } catch (const std::exception& error) {
+            qDebug() << "The last command can't be kept:" << error.what();
+        }
+    });
+    if (!BusyDlg::wait_for(job, tr("Saving..."), &window_))
+        qDebug() << "The last command isn't kept yet";
 }
 
 bool CopyStep::refuse(const QString& reason)

@@ -22,9 +22,9 @@ public:
     /// `window` is hidden for the comparison of a checksum and stays so, unless the user has to be told something.
     CopyStep(platform::Clipboard& clipboard, QWidget& window) : clipboard_(clipboard), window_(window) {}
 
-    /// Copies the text and keeps the command as the last one run; null keeps none. A checksum that the user has
-    /// copied before is compared with the text first. False when the text couldn't be copied, which the user has been
-    /// told then; true also when the user leaves the comparison without OK.
+    /// Copies the text and keeps the command as the last one run, as far as the user waits for that; null keeps none.
+    /// A checksum that the user has copied before is compared with the text first. False when the text couldn't be
+    /// copied, which the user has been told then; true also when the user leaves the comparison without OK.
     /// Events are processed meanwhile: what is copied is what came in.
     bool run(std::shared_ptr<const VellumarkCommand> command, const MVItemsSet& selection, QString text);
 
@@ -38,6 +38,7 @@ private:
     bool settle(const VellumarkCommand* command, const MVItemsSet& selection, std::u16string_view text);
     bool is_declined(const VellumarkCommand& command, const MVItemsSet& selection, std::u16string_view text);
     bool copy(std::u16string_view text);
+    void keep_as_last_run(const VellumarkCommand& command);
     static QString failed_to_copy();
     bool warn(const QString& sentence);
 };

@@ -1,4 +1,4 @@
-#include "app/busy_dlg.h"
+#include "ui/dialogs/busy_dlg.h"
 
 #include "ui/background_job.h"
 
@@ -21,6 +21,7 @@ constexpr std::chrono::milliseconds unnoticed{200};
 BusyDlg::BusyDlg(const QString& text, QWidget* parent) : QDialog(parent)
 {
     setWindowTitle(QCoreApplication::applicationName());
+    setAccessibleDescription(text);
     setModal(true);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(new QLabel(text));
