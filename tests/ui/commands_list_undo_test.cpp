@@ -76,6 +76,9 @@ TEST_F(CommandsListUndo, CommitAndDiscard)
     command.set_separator(u"; ");
     expect_step("Discard Changes", "A >B C D L (uncommitted changes)* ", [&] { app.menu.discard(1); });
     EXPECT_EQ(command.separator(), u"; ");
+    command.commit();
+    app.stack.redo();
+    EXPECT_EQ(command.separator(), u"") << "what was discarded first is discarded again";
 }
 
 TEST_F(CommandsListUndo, AStepInACommandBringsItToTheFront)

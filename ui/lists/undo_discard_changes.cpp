@@ -4,7 +4,8 @@
 
 UndoDiscardChanges::UndoDiscardChanges(CommandLists& lists, std::shared_ptr<MVCommandBase> command,
                                        const QString& text)
-    : CommandStep(lists, std::move(command), text), old_(this->command()->clone())
+    : CommandStep(lists, std::move(command), text), old_(this->command()->clone()),
+      new_(this->command()->committed_copy())
 {}
 
 void UndoDiscardChanges::write_old(MVCommandBase& command)
@@ -14,5 +15,6 @@ void UndoDiscardChanges::write_old(MVCommandBase& command)
 
 void UndoDiscardChanges::write_new(MVCommandBase& command)
 {
-    command.revert();
+    if (new_)
+        command.assign_from(*new_);
 }

@@ -5,7 +5,8 @@
 
 class CommandLists;
 
-/// Replaces the commands and the current rows of both lists.
+/// Replaces the commands and the current rows of both lists: when commands move between them, and when what another
+/// program has saved comes in.
 class UndoMoveCommandBetweenLists final : public UndoStep
 {
 public:
