@@ -15,16 +15,20 @@ constexpr QLatin1String item("<li>");
 
 }
 
-void MessageBoxes::show_failure(QWidget* parent, const QString& sentence, const std::exception& failure)
+void MessageBoxes::show_failure(QWidget* parent, const QString& sentence, const QString& reason)
 {
     // The parent may be a dialog that closes by itself meanwhile, and takes the box along.
     const QPointer box(new QMessageBox(QMessageBox::Warning, QCoreApplication::applicationName(),
-                                       sentence + QLatin1Char('\n') + QString::fromUtf8(failure.what()),
-                                       QMessageBox::Ok, parent));
+                                       sentence + QLatin1Char('\n') + reason, QMessageBox::Ok, parent));
     // A path may look like a tag.
     box->setTextFormat(Qt::PlainText);
     box->exec();
     delete box;
+}
+
+void MessageBoxes::show_failure(QWidget* parent, const QString& sentence, const std::exception& failure)
+{
+    show_failure(parent, sentence, QString::fromUtf8(failure.what()));
 }
 
 void MessageBoxes::show_menu_is_empty(QWidget* parent)

@@ -17,7 +17,8 @@ public:
     enum class SaveChoice { Save, DontSave, Cancel };
     enum class OtherChanges { Merge, Overwrite, Cancel };
 
-    /// `sentence` tells what failed, `failure` why.
+    /// `sentence` tells what failed, the failure why.
+    static void show_failure(QWidget* parent, const QString& sentence, const QString& reason);
     static void show_failure(QWidget* parent, const QString& sentence, const std::exception& failure);
 
     static void show_menu_is_empty(QWidget* parent);

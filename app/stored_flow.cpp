@@ -97,8 +97,12 @@ void StoredFlow::take_start()
 
 bool StoredFlow::save()
 {
+    // A screen reader presses buttons behind a dialog as well.
+    if (is_busy_)
+        return false;
     const QScopedValueRollback<bool> busy(is_busy_, true);
-    while (may_save()) {
+    bool may_lack_configure_command = false;
+    while (may_save(may_lack_configure_command)) {
         Written written = write(false);
         if (written == Written::FoundOther)
             switch (MessageBoxes::ask_about_other_changes(&window_)) {
@@ -114,41 +118,49 @@ bool StoredFlow::save()
     return false;
 }
 
-bool StoredFlow::may_save()
+bool StoredFlow::may_save(bool& may_lack_configure_command)
 {
     const CommandsListController& menu = lists_.menu();
     if (menu.is_empty()) {
         MessageBoxes::show_menu_is_empty(&window_);
         return false;
     }
-    return menu.has_configure_command() || MessageBoxes::save_without_configure_command(&window_);
+    if (!menu.has_configure_command() && !may_lack_configure_command)
+        may_lack_configure_command = MessageBoxes::save_without_configure_command(&window_);
+    return menu.has_configure_command() || may_lack_configure_command;
 }
 
 StoredFlow::Written StoredFlow::write(bool over_all)
 {
+    const QString failed = MessageBoxes::tr("Failed to save stored commands");
     try {
-        const CommandsSaving saving = over_all ? stored_.saving_over_all() : stored_.saving();
-        if (!write_file(saving))
+        PendingSave save = over_all ? stored_.save_over_all() : stored_.save();
+        const auto is_written = write_file(save.saving);
+        if (!is_written) {
+            stored_.give_up(save);
+            MessageBoxes::show_failure(&window_, failed, tr("Saving was cancelled."));
+            return Written::No;
+        }
+        if (!*is_written)
             return Written::FoundOther;
-        stored_.mark_saved(saving);
+        stored_.mark_saved(std::move(save));
         watch_.file_written();
         return Written::Yes;
     } catch (const std::exception& error) {
-        MessageBoxes::show_failure(&window_, MessageBoxes::tr("Failed to save stored commands"), error);
+        MessageBoxes::show_failure(&window_, failed, error);
         return Written::No;
     }
 }
 
-bool StoredFlow::write_file(CommandsSaving saving)
+std::optional<bool> StoredFlow::write_file(CommandsSaving saving)
 {
     const auto is_wanted = std::make_shared<std::atomic<bool>>(true);
     saving.is_wanted = [is_wanted] { return is_wanted->load(); };
-    BackgroundValue<bool> job([save = files_.save, saving] { return save(saving); });
+    BackgroundValue<bool> job([save = files_.save, saving = std::move(saving)] { return save(saving); });
     if (BusyDlg::wait_for(job.job(), tr("Saving..."), &window_))
         return job.take();
     *is_wanted = false;
-    stored_.give_up(saving);
-    throw std::runtime_error(tr("Saving was cancelled.").toStdString());
+    return {};
 }
 
 bool StoredFlow::merge()

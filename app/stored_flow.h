@@ -8,6 +8,7 @@
 #include <QPointer>
 
 #include <memory>
+#include <optional>
 
 class CommandLists;
 class QWidget;
@@ -31,7 +32,8 @@ public:
     /// True once `loaded` has come.
     bool has_loaded() const { return has_loaded_; }
 
-    /// True when the commands file was written. Whatever speaks against is shown to the user.
+    /// True when the commands file was written, false at once while another save is on its way. Whatever else speaks
+    /// against is shown to the user.
     bool save();
 
     /// Replaces the menu list by the default commands, as one step of undo; a failure is shown to the user.
@@ -59,11 +61,12 @@ private:
     static Start read_start(const StoredFiles& files);
     void wait_for_start();
     void take_start();
-    bool may_save();
+    /// Asks about the missing command unless it may be missing, and tells then whether it may.
+    bool may_save(bool& may_lack_configure_command);
     /// Whatever fails is shown to the user.
     Written write(bool over_all);
-    /// False when another file is found. Throws what `commands_saving::write` does, and when the user cancels it.
-    bool write_file(CommandsSaving saving);
+    /// As `commands_saving::write`; empty when the user cancels it.
+    std::optional<bool> write_file(CommandsSaving saving);
     /// Brings in what another program has saved. False when that can't be read, which the user is told, or the user
     /// doesn't want to wait for it.
     bool merge();

@@ -36,42 +36,43 @@ bool StoredState::has_unsaved_changes() const
     return lists_.menu().is_modified() || lists_.library().is_modified() || presets_.is_modified();
 }
 
-CommandsSaving StoredState::saving() const
+PendingSave StoredState::save() const
 {
+    PendingSave save = save_over_all();
     if (!is_loaded_)
-        return saving_over_all();
-    std::vector<std::string> known = given_up_;
+        return save;
+    save.saving.old = old_file_;
+    save.saving.known = given_up_;
     if (text_)
-        known.push_back(*text_);
-    CommandsSaving saving = saving_over_all();
-    saving.old = old_file_;
-    saving.known = std::move(known);
-    return saving;
+        save.saving.known->push_back(*text_);
+    return save;
 }
 
-CommandsSaving StoredState::saving_over_all() const
+PendingSave StoredState::save_over_all() const
 {
-    return {.text =
-                commands_saving::text_of({lists_.menu().commands(), lists_.library().commands(), presets_.working()}),
-            .old = OldFile::Kept};
+    PendingSave save{.saving = {.text = {}, .old = OldFile::Kept},
+                     .menu = lists_.menu().model().snapshot(),
+                     .library = lists_.library().model().snapshot(),
+                     .presets = presets_.working()};
+    preset_followers::update(save.menu.copies, save.presets);
+    preset_followers::update(save.library.copies, save.presets);
+    save.saving.text = commands_saving::text_of({save.menu.copies, save.library.copies, save.presets});
+    return save;
 }
 
-void StoredState::mark_saved(const CommandsSaving& saving)
+void StoredState::mark_saved(PendingSave save)
 {
-    is_loaded_ = true;
-    text_ = saving.text;
-    given_up_.clear();
-    old_file_ = OldFile::Replaced;
-    for (CommandsListController* list : {&lists_.menu(), &lists_.library()}) {
-        preset_followers::update(list->commands(), presets_.working());
-        list->model().mark_saved();
-    }
-    presets_.set_saved(presets_.working());
+    set_known({.commands = {}, .text = std::move(save.saving.text)});
+    for (const ListSnapshot* list : {&save.menu, &save.library})
+        preset_followers::update(list->commands, presets_.working());
+    lists_.menu().model().mark_saved(std::move(save.menu));
+    lists_.library().model().mark_saved(std::move(save.library));
+    presets_.set_saved(std::move(save.presets));
 }
 
-void StoredState::give_up(const CommandsSaving& saving)
+void StoredState::give_up(const PendingSave& save)
 {
-    given_up_.push_back(saving.text);
+    given_up_.push_back(save.saving.text);
 }
 
 bool StoredState::is_news(const commands_file::Loaded& loaded) const

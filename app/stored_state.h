@@ -1,6 +1,7 @@
 #pragma once
 
 #include "store/commands_file.h"
+#include "ui/lists/list_snapshot.h"
 
 #include <optional>
 #include <string>
@@ -9,6 +10,13 @@
 class CommandLists;
 class Presets;
 class QString;
+
+/// A save, with what it writes of the lists and presets.
+struct PendingSave {
+    CommandsSaving saving;
+    ListSnapshot menu, library;
+    std::vector<ExtensionsPreset> presets;
+};
 
 /// The stored commands and presets, between the commands file and what shows them: the two lists and the presets. It
 /// touches no file, but knows what the file holds. Main thread only.
@@ -24,23 +32,24 @@ public:
     bool has_unsaved_changes() const;
 
     /// The lists and the presets as they are, to replace the file that is known here.
-    CommandsSaving saving() const;
+    PendingSave save() const;
     /// The same for whatever file is there, which is kept.
-    CommandsSaving saving_over_all() const;
+    PendingSave save_over_all() const;
 
-    /// The save was written: all counts as saved.
-    void mark_saved(const CommandsSaving& saving);
+    /// The save was written: what it wrote counts as saved, and what was changed since as a change.
+    void mark_saved(PendingSave save);
     /// Nobody waits for the save, which may yet be written: the next one may replace what it wrote.
-    void give_up(const CommandsSaving& saving);
+    void give_up(const PendingSave& save);
 
     /// Whether there is a file now that says something else than the one that is known here.
     bool is_news(const commands_file::Loaded& loaded) const;
 
-    /// Replaces lists without changes of their own, as one step of undo, and the presets, by what another program has
-    /// saved. Commands of which the file says the same stay as they are.
+    /// Replaces lists without changes of their own, as one step of undo, by what another program has saved, and the
+    /// presets, which that step doesn't take back. Commands of which the file says the same stay as they are.
     void take_over(const commands_file::Loaded& loaded);
 
-    /// Merges what another program has saved into the lists, as one step of undo, and into the presets.
+    /// Merges what another program has saved into the lists, as one step of undo, and into the presets, which that
+    /// step doesn't take back.
     void merge(const commands_file::Loaded& loaded);
 
 private:

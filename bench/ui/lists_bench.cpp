@@ -142,7 +142,7 @@ void list_mark_saved(benchmark::State& state)
 {
     Window window;
     measure(state, [&] {
-        window.app.menu.model().mark_saved();
+        window.app.menu.model().mark_saved(window.app.menu.model().snapshot());
         window.paint();
     });
 }

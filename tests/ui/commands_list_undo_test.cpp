@@ -198,7 +198,7 @@ TEST_F(CommandsListUndo, StepsFromBeforeASave)
     app.menu.rename(0, u"E", u"");
     select_rows({1});
     app.menu.delete_selected();
-    app.menu.model().mark_saved();
+    app.menu.model().mark_saved(app.menu.model().snapshot());
     EXPECT_EQ(menu_shown(), "E >C D ");
     app.stack.undo();
     EXPECT_EQ(menu_shown(), "E >B C D Save");
@@ -208,7 +208,7 @@ TEST_F(CommandsListUndo, StepsFromBeforeASave)
     auto from_last_session = commands_named({"L"}).front();
     from_last_session->set_from_previous_session(true);
     app.menu.set_commands({from_last_session});
-    app.menu.model().mark_saved();
+    app.menu.model().mark_saved(app.menu.model().snapshot());
     app.menu.set_current_row(0);
     EXPECT_EQ(menu_shown(), ">L ") << "the file has it now";
 }

@@ -58,17 +58,25 @@ void CommandsListModel::set_saved_commands(CommandList commands)
     set_commands(std::move(edited));
 }
 
-void CommandsListModel::mark_saved()
+ListSnapshot CommandsListModel::snapshot() const
 {
-    saved_commands_.clear();
+    ListSnapshot snapshot{commands_, {}};
+    snapshot.copies.reserve(commands_.size());
     for (const Command& command : commands_) {
-        // The file has it now, so that from here on it is a command as any other.
-        command->set_from_previous_session(false);
-        Command saved = command->clone();
-        saved->set_committed(nullptr);
-        command->set_committed(saved);
-        saved_commands_.push_back(std::move(saved));
+        snapshot.copies.push_back(command->clone());
+        snapshot.copies.back()->set_committed(nullptr);
     }
+    return snapshot;
+}
+
+void CommandsListModel::mark_saved(ListSnapshot saved)
+{
+    for (std::size_t i = 0; i < saved.commands.size(); ++i) {
+        // The file has it now, so that from here on it is a command as any other.
+        saved.commands[i]->set_from_previous_session(false);
+        saved.commands[i]->set_committed(saved.copies[i]);
+    }
+    saved_commands_ = std::move(saved.copies);
     refresh_rows();
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/stored_commands.h"
+#include "ui/lists/list_snapshot.h"
 #include "ui/lists/show_marks.h"
 
 #include <QAbstractTableModel>
@@ -33,8 +33,10 @@ public:
     /// The saved form alone: the list stays as it is.
     void set_saved_form(CommandList commands) { saved_commands_ = std::move(commands); }
 
-    /// The list is saved as it is.
-    void mark_saved();
+    ListSnapshot snapshot() const;
+
+    /// The list was saved as it was at `saved`, whatever it has become since.
+    void mark_saved(ListSnapshot saved);
 
     /// The commands or the selection changed behind the rows, so that these have to be painted again.
     void refresh_rows();
