@@ -6,6 +6,17 @@
 
 #include <QSettings>
 
+namespace {
+
+/// A list that isn't loaded has no current row: that of the last session stays.
+void save_row(QSettings& settings, QAnyStringView key, const CommandsListController& list)
+{
+    if (list.current_index() >= 0)
+        settings.setValue(key, list.current_index());
+}
+
+}
+
 namespace window_state {
 
 void restore(QWidget& window, MainAppUi& ui)
@@ -19,8 +30,8 @@ void save(const QWidget& window, const MainAppUi& ui, CommandLists& lists)
 {
     QSettings settings;
     settings.setValue(settings_keys::window_geometry, window.saveGeometry());
-    settings.setValue(settings_keys::menu_row, lists.menu().current_index());
-    settings.setValue(settings_keys::library_row, lists.library().current_index());
+    save_row(settings, settings_keys::menu_row, lists.menu());
+    save_row(settings, settings_keys::library_row, lists.library());
     ui.save_settings(settings);
 }
 

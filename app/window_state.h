@@ -11,7 +11,7 @@ namespace window_state {
 /// The window's place and size, and what `ui` keeps.
 void restore(QWidget& window, MainAppUi& ui);
 
-/// What `restore` brings back, the lists' current rows, and what the editors' pages keep.
+/// What `restore` brings back, the lists' current rows where there are such, and what the editors' pages keep.
 void save(const QWidget& window, const MainAppUi& ui, CommandLists& lists);
 
 }
