@@ -1,6 +1,6 @@
 #include "platform/files.h"
 
-#include "platform/host/host_location.h"
+#include "platform/host/opened_file.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -51,38 +51,53 @@ bool read_rest(int descriptor, std::string& content)
     }
 }
 
-std::optional<std::string> read_opened(const Descriptor& descriptor, std::string& error)
+bool is_readable(const struct stat& info)
 {
-    std::string content;
-    if (descriptor && read_rest(descriptor.get(), content))
-        return content;
-    error = words(errno);
-    return {};
+    return S_ISREG(info.st_mode) || S_ISDIR(info.st_mode);
 }
 
 }
 
-std::optional<std::string> read_file(std::u16string_view path, std::string& error)
+Descriptor open_file(const HostLocation& location, std::string& error)
 {
-    const HostLocation location(path);
-    const auto is_readable = [](const struct stat& info) { return S_ISREG(info.st_mode) || S_ISDIR(info.st_mode); };
     struct stat info;
     if (fstatat(location.folder(), location.name(), &info, 0) == 0 && !is_readable(info)) {
         error = not_regular;
         return {};
     }
     // Another entry can have taken the name since: opening a fifo must not wait, and nothing but a file is read.
-    const Descriptor descriptor = location.open(O_RDONLY | O_NONBLOCK | O_NOCTTY);
-    if (descriptor && (fstat(descriptor.get(), &info) != 0 || !is_readable(info))) {
+    Descriptor descriptor = location.open(O_RDONLY | O_NONBLOCK | O_NOCTTY);
+    if (!descriptor)
+        error = words(errno);
+    else if (fstat(descriptor.get(), &info) == 0 && is_readable(info))
+        return descriptor;
+    else
         error = not_regular;
-        return {};
-    }
-    return read_opened(descriptor, error);
+    return {};
+}
+
+std::optional<std::string> read_opened(const Descriptor& descriptor, std::string& error)
+{
+    std::string content;
+    if (read_rest(descriptor.get(), content))
+        return content;
+    error = words(errno);
+    return {};
+}
+
+std::optional<std::string> read_file(std::u16string_view path, std::string& error)
+{
+    const Descriptor descriptor = open_file(HostLocation(path), error);
+    return descriptor ? read_opened(descriptor, error) : std::nullopt;
 }
 
 std::optional<std::string> read_file_or_pipe(std::u16string_view path, std::string& error)
 {
-    return read_opened(HostLocation(path).open(O_RDONLY | O_NOCTTY), error);
+    const Descriptor descriptor = HostLocation(path).open(O_RDONLY | O_NOCTTY);
+    if (descriptor)
+        return read_opened(descriptor, error);
+    error = words(errno);
+    return {};
 }
 
 }

@@ -1,35 +1,49 @@
 #include "platform/files.h"
 
-#include "platform/host/host_location.h"
+#include "platform/host/opened_file.h"
 #include "platform/host/write_all.h"
 #include "platform/paths.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 namespace platform {
 
 namespace {
 
-constexpr mode_t owner_bits = 0600, other_bits = 0707;
+constexpr mode_t new_bits = 0600, owner_bits = 0700, other_bits = 0007;
 
-/// Lets nobody read the copy who might not read the original: with another group the group's rights would be other
-/// people's.
-bool take_over_rights(int copy, const struct stat& original)
+/// Where the file has an access list, the group's bits are what anyone in that list may have at the most.
+bool has_access_list(int file)
 {
-    if (fchown(copy, original.st_uid, original.st_gid) != 0) [[maybe_unused]]
-        const int is_allowed = fchown(copy, static_cast<uid_t>(-1), original.st_gid);
-    struct stat own;
-    if (fstat(copy, &own) != 0)
-        return false;
-    const mode_t bits = original.st_mode & ACCESSPERMS;
-    return fchmod(copy, own.st_gid == original.st_gid ? bits : bits & other_bits) == 0;
+    return fgetxattr(file, "system.posix_acl_access", nullptr, 0) > 0;
 }
 
-bool copy_to(const HostLocation& place, std::string_view content, const struct stat& original)
+/// The bits that let nobody read the copy who might not read the original: in another group are people who were
+/// others there, and among the others those who were in the group.
+mode_t bits_for(const struct stat& copy, int original, const struct stat& info)
 {
-    Descriptor copy = place.open(O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_NOCTTY, owner_bits);
+    const mode_t bits = info.st_mode & ACCESSPERMS;
+    if (has_access_list(original))
+        return bits & owner_bits;
+    return copy.st_gid == info.st_gid ? bits : (bits & owner_bits) | (bits & (bits >> 3) & other_bits);
+}
+
+bool take_over_rights(int copy, int original)
+{
+    struct stat info, own;
+    if (fstat(original, &info) != 0)
+        return false;
+    if (fchown(copy, info.st_uid, info.st_gid) != 0) [[maybe_unused]]
+        const int is_allowed = fchown(copy, static_cast<uid_t>(-1), info.st_gid);
+    return fstat(copy, &own) == 0 && fchmod(copy, bits_for(own, original, info)) == 0;
+}
+
+bool copy_to(const HostLocation& place, std::string_view content, int original)
+{
+    Descriptor copy = place.open(O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_NOCTTY, new_bits);
     if (!copy)
         return false;
     const bool is_written = write_all(copy.get(), content) && fsync(copy.get()) == 0 &&
@@ -48,12 +62,12 @@ bool keep_as(std::u16string_view path, std::u16string_view other)
     // A second name takes no reading, so that it can be had of a file that the disk fails to read.
     if (linkat(from.folder(), from.name(), to.folder(), to.name(), AT_SYMLINK_FOLLOW) == 0)
         return true;
-    struct stat original;
-    if (fstatat(from.folder(), from.name(), &original, 0) != 0)
-        return false;
     std::string error;
-    const auto content = read_file(path, error);
-    return content && copy_to(to, *content, original);
+    const Descriptor original = open_file(from, error);
+    if (!original)
+        return false;
+    const auto content = read_opened(original, error);
+    return content && copy_to(to, *content, original.get());
 }
 
 void remove_file(std::u16string_view path)

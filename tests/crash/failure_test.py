@@ -3,6 +3,7 @@
 import os
 import resource
 import signal
+import struct
 import time
 import unittest
 
@@ -103,6 +104,13 @@ class Failure(SaveTest):
             self.assertEqual((self.content(copy), self.permissions(copy)), (self.old, bits))
         self.assertEqual(self.content(self.root + "/elsewhere"), b"kept")
         self.assertFalse(os.path.exists(self.folder + "/nowhere"))
+        # The owner and one more user: the list isn't copied, and its mask is no right of the group's.
+        self.write(self.old)
+        entries = [(1, 6, 2**32 - 1), (2, 6, NOBODY), (4, 0, 2**32 - 1), (16, 6, 2**32 - 1), (32, 4, 2**32 - 1)]
+        access = struct.pack("<I", 2) + b"".join(struct.pack("<HHI", *entry) for entry in entries)
+        os.setxattr(self.file, "system.posix_acl_access", access)
+        self.run_tool("keep", "new", under=self.injected("linkat:error=EPERM"))
+        self.assertEqual(self.permissions(self.file + ".broken6"), 0o600)
 
     def test_entries_in_the_way(self):
         os.remove(self.file)
