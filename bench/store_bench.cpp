@@ -49,7 +49,7 @@ void save_commands_file(benchmark::State& state)
     const std::string content = multiplied_defaults(static_cast<std::size_t>(state.range(0)));
     const StoredCommands stored = commands_file::read(files.write("commands.json", content));
     while (state.KeepRunning())
-        commands_file::save(stored.menu, stored.library, stored.presets);
+        commands_saving::write({.text = commands_saving::text_of(stored)});
     state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(content.size()));
 }
 

@@ -3,7 +3,6 @@
 #include "platform/files.h"
 #include "store/commands_json.h"
 #include "store/mv_config.h"
-#include "store/preset_followers.h"
 
 namespace {
 
@@ -66,14 +65,6 @@ StoredCommands read(std::u16string_view path, JsonSource source)
     if (!platform::exists(path))
         throw JsonFileReaderException(std::u16string(path), JsonFileStatus::MissingFile);
     return from_text(std::u16string(path), read_text_file(path, source));
-}
-
-void save(const CommandList& menu, const CommandList& library, const std::vector<ExtensionsPreset>& presets,
-          OldFile old)
-{
-    commands_saving::write({.text = commands_saving::text_of({menu, library, presets}), .old = old});
-    preset_followers::update(menu, presets);
-    preset_followers::update(library, presets);
 }
 
 }

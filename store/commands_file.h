@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-/// Reads and writes the user's commands, always through the installed MVConfig. On any thread, for files may take
+/// Reads the user's commands, always through the installed MVConfig. On any thread, for files may take
 /// their time. A file that can't be used throws JsonFileReaderException or std::exception, and nothing of it is used.
 namespace commands_file {
 
@@ -36,10 +36,5 @@ StoredCommands load_defaults();
 
 /// One file, as `commands_json::from_json` reads it.
 StoredCommands read(std::u16string_view path, JsonSource source = JsonSource::StoredFile);
-
-/// Replaces the user's file, whatever it holds, as `commands_saving::write` does, and brings the commands up to date
-/// against `presets` then. Main thread only. Throws what that throws; the commands are then as they were.
-void save(const CommandList& menu, const CommandList& library, const std::vector<ExtensionsPreset>& presets,
-          OldFile old = OldFile::Replaced);
 
 }

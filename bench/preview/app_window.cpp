@@ -23,7 +23,7 @@ void store_commands(std::string_view first)
     menu.push_back(std::make_shared<VellumarkCommand>(boost::json::parse(first).as_object()));
     while (menu.size() < commands)
         menu.push_back(defaults.menu[menu.size() % defaults.menu.size()]->clone());
-    commands_file::save(menu, {}, defaults.presets);
+    commands_saving::write({.text = commands_saving::text_of({menu, {}, defaults.presets})});
 }
 
 }

@@ -98,7 +98,7 @@ void store_commands()
         for (const auto& command : defaults.menu)
             menu.push_back(command->clone());
     menu.resize(commands);
-    commands_file::save(menu, {}, defaults.presets);
+    commands_saving::write({.text = commands_saving::text_of({menu, {}, defaults.presets})});
 }
 
 /// Milliseconds by step.

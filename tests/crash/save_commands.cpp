@@ -32,7 +32,7 @@ void save(std::string_view name, OldFile old)
     }
     const CommandList menu{std::make_shared<VellumarkCommand>(to_utf16(name))};
     getppid();
-    commands_file::save(menu, {}, presets, old);
+    commands_saving::write({.text = commands_saving::text_of({menu, {}, presets}), .old = old});
     getppid();
 }
 

@@ -3,6 +3,7 @@
 #include "platform/paths.h"
 #include "store/json_file_reader.h"
 #include "store/mv_command_builtin.h"
+#include "store/preset_followers.h"
 #include "store_test.h"
 
 #include <filesystem>
@@ -12,9 +13,9 @@ namespace {
 class CommandsFileSave : public StoreTest
 {
 protected:
-    static void save(const StoredCommands& commands)
+    static void save(const StoredCommands& commands, OldFile old = OldFile::Replaced)
     {
-        commands_file::save(commands.menu, commands.library, commands.presets);
+        commands_saving::write({.text = commands_saving::text_of(commands), .old = old});
     }
 
     /// What is written when a file of that text is read and saved unchanged.
@@ -39,7 +40,7 @@ TEST_F(CommandsFileSave, Bytes)
     preset.name = u"Images";
     preset.set_extensions(u"JPG");
     const auto builtin = std::make_shared<MVCommandBuiltin>(CommandType::Configure, u"");
-    commands_file::save({builtin, command}, {command}, {preset});
+    save({{builtin, command}, {command}, {preset}});
 
     const std::string written =
         R"({"commandType":"Vellumark","name":"Ä😀/\"","name1":"One","separator":"\r\n\u0001","startText":"",)"
@@ -100,8 +101,10 @@ TEST_F(CommandsFileSave, FiltersFollowThePresets)
     std::filesystem::remove(folder.host(temporary_file));
     save(commands);
     const std::string updated = "follows: jpg;png <1>\nlost: kept <>\nfree: own <>\nfollows too: txt <2>\n";
-    EXPECT_EQ(filters(commands), updated);
     EXPECT_EQ(filters(commands_file::load()), updated);
+    for (const CommandList& list : {commands.menu, commands.library})
+        preset_followers::update(list, commands.presets);
+    EXPECT_EQ(filters(commands), updated);
 }
 
 TEST_F(CommandsFileSave, WhatCantBeReplaced)
@@ -116,7 +119,7 @@ TEST_F(CommandsFileSave, WhatCantBeReplaced)
 
 TEST_F(CommandsFileSave, KeepsTheOldFileWhenAsked)
 {
-    const auto save_error = [&] { return error_of([] { commands_file::save({}, {}, {}, OldFile::Kept); }); };
+    const auto save_error = [&] { return error_of([] { save({}, OldFile::Kept); }); };
     const std::string kept = std::string(user_file) + ".broken";
     EXPECT_EQ(save_error(), "no error");
     EXPECT_FALSE(exists(kept)) << "there was none";

@@ -51,7 +51,7 @@ TEST_F(MVConfigTest, NothingIsReadOrWrittenBeforeInstall)
         [] { commands_file::load(); },
         [] { commands_file::load_defaults(); },
         [this] { commands_file::read(folder.path(user_file)); },
-        [] { commands_file::save({}, {}, {}); },
+        [] { commands_saving::write({}); },
         [] { read_last_command(); },
         [] { write_last_command(VellumarkCommand(u"B")); },
     };
