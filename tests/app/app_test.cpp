@@ -57,6 +57,22 @@ AppTest::AppTest()
                        QString::fromStdString(folder.host("settings")));
 }
 
+AppTest::~AppTest()
+{
+    app.reset();
+    file_users_.reset();
+    EXPECT_EQ(files_left_->get_future().wait_for(std::chrono::minutes(1)), std::future_status::ready);
+}
+
+StoredFiles AppTest::counted_files() const
+{
+    return {.load = [load = files.load, user = file_users_] { return load(); },
+            .read = [read = files.read, user = file_users_] { return read(); },
+            .save = [save = files.save, user = file_users_](const CommandsSaving& saving) { return save(saving); },
+            .read_last = [read = files.read_last, user = file_users_] { return read(); },
+            .patience_at_start = files.patience_at_start};
+}
+
 void AppTest::write(std::string_view file, std::string_view menu, std::string_view library) const
 {
     folder.write(file, R"({"menuCommands":)" + json_list(menu) + R"(,"commandsLibrary":)" + json_list(library) +
@@ -80,7 +96,7 @@ MirvantaApp& AppTest::open(bool with_editor)
             }
             return editors;
         },
-        files);
+        counted_files());
     app->show();
     return *app;
 }

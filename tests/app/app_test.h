@@ -7,7 +7,9 @@
 
 #include <QPushButton>
 
+#include <future>
 #include <initializer_list>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -16,6 +18,9 @@ class AppTest : public StoreTest
 {
 protected:
     AppTest();
+
+    /// Waits until nobody reads or writes files any more, for a window waits for nobody.
+    ~AppTest() override;
 
     /// Ships a default commands file of these, as `names` of file-name commands; "More" stands for the command that
     /// opens this program and "Extract" for another built-in one.
@@ -55,5 +60,10 @@ protected:
 private:
     void write(std::string_view file, std::string_view menu, std::string_view library) const;
 
+    StoredFiles counted_files() const;
+
+    std::shared_ptr<std::promise<void>> files_left_ = std::make_shared<std::promise<void>>();
+    /// Shared with who may still call `files`.
+    std::shared_ptr<void> file_users_{nullptr, [left = files_left_](void*) { left->set_value(); }};
     ScopedVariable runtime_{"XDG_RUNTIME_DIR", folder.host("run")};
 };

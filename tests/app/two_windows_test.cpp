@@ -6,9 +6,11 @@
 #include "ui/lists/commands_list_model.h"
 
 #include <QApplication>
+#include <QSettings>
 #include <QSignalSpy>
 #include <QTimer>
 
+#include <algorithm>
 #include <filesystem>
 #include <future>
 
@@ -86,6 +88,17 @@ TEST_F(AppTest, ASaveAsksAboutTheChangesOfOthers)
     }
 }
 
+TEST_F(AppTest, OneSaveAsksOnceAboutTheMissingCommand)
+{
+    store("A");
+    open();
+    editor->change_separator(u"-");
+    store("A, B");
+    const BoxAnswer box({"Save", "Merge", "Save"});
+    EXPECT_TRUE(app->save_commands_list());
+    EXPECT_EQ(std::ranges::count(box.seen(), '\n'), 2) << box.seen();
+}
+
 TEST_F(AppTest, TakesOverWhatOthersSaveAsLongAsItHasNoChanges)
 {
     const auto shows = [this](std::string_view expected) { return becomes([&] { return state() == expected; }); };
@@ -133,6 +146,27 @@ TEST_F(AppTest, WhatTheFileSaysOfNothingStaysWhenOthersSave)
     EXPECT_EQ(app->menu_list().command_at(1), command);
 }
 
+TEST_F(AppTest, ASaveCountsForWhatItWroteAlone)
+{
+    store("A, More");
+    std::promise<void> disk_is_back;
+    files.save = [back = disk_is_back.get_future().share()](const CommandsSaving& saving) {
+        back.wait();
+        return commands_saving::write(saving);
+    };
+    open();
+    editor->change_separator(u"-");
+    QTimer::singleShot(0, app.get(), [&] {
+        EXPECT_FALSE(app->save_commands_list()) << "while the first is on its way";
+        editor->change_separator(u"+");
+        disk_is_back.set_value();
+    });
+    EXPECT_TRUE(app->save_commands_list());
+    EXPECT_EQ(state(), "menu[*A', More] library[] save");
+    app->menu_list().discard(0);
+    EXPECT_EQ(state() + to_utf8(editor->current->separator()), "menu[*A, More] library[]-");
+}
+
 TEST_F(AppTest, ADiskThatHangsHoldsUpNothing)
 {
     store("A, B, More");
@@ -144,10 +178,13 @@ TEST_F(AppTest, ADiskThatHangsHoldsUpNothing)
         back.wait();
         return commands_file::load_user_file();
     };
-    files.save = [back](const CommandsSaving& saving) {
+    std::promise<bool> saved;
+    files.save = [back, &saved](const CommandsSaving& saving) {
         back.wait();
-        return commands_saving::write(saving);
+        saved.set_value(commands_saving::write(saving));
+        return false;
     };
+    QSettings().setValue("VKMenuCommandsSelectedIndex", 1);
     open();
     EXPECT_EQ(state(), "menu[] library[]");
     EXPECT_TRUE(becomes([] { return qobject_cast<BusyDlg*>(QApplication::activeModalWidget()); }));
@@ -155,6 +192,8 @@ TEST_F(AppTest, ADiskThatHangsHoldsUpNothing)
         const BusyCancel cancel;
         EXPECT_TRUE(becomes([] { return !QApplication::activeModalWidget(); }));
     }
+    app->keep_state();
+    EXPECT_EQ(QSettings().value("VKMenuCommandsSelectedIndex"), 1) << "that of a list that nobody has seen";
     app->new_command_btn_pressed();
     const std::string before = content(user_file);
     {
@@ -167,7 +206,8 @@ TEST_F(AppTest, ADiskThatHangsHoldsUpNothing)
     app->undo_stack().undo();
     disk_is_back.set_value();
     EXPECT_TRUE(becomes([&] { return state() == "menu[*A, B, More] library[]"; })) << state();
-    EXPECT_EQ(content(user_file), before) << "nobody wanted that save any more";
+    EXPECT_FALSE(saved.get_future().get()) << "nobody wanted that save any more";
+    EXPECT_EQ(content(user_file), before);
 }
 
 TEST_F(AppTest, LateCommandsComeWithTheirSelection)
@@ -183,7 +223,7 @@ TEST_F(AppTest, LateCommandsComeWithTheirSelection)
         };
         open_again();
         app->on_context_menu_selected(row, {});
-        QTest::qWait(50);
+        EXPECT_TRUE(becomes([&] { return !app->is_selection_coming(); }));
         disk_is_back.set_value();
         EXPECT_TRUE(becomes([&] { return !app->menu_list().is_empty(); }));
         EXPECT_EQ(state(), row < 0 ? "menu[A, *B, C, More] library[*L]" : "menu[A, B, *C, More] library[*L]");
