@@ -99,8 +99,9 @@ void MirvantaApp::close_with_accept()
 void MirvantaApp::done(int result)
 {
     ui_->finish_edits();
-    keep_state();
+    // First, for the next window waits for it, and a home folder that hangs holds up the rest.
     source_.end();
+    keep_state();
     QDialog::done(result);
 }
 

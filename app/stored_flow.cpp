@@ -33,16 +33,27 @@ StoredFlow::StoredFlow(QWidget& window, CommandLists& lists, StoredState& stored
       start_([files = files_] { return read_start(files); }), watch_(window, files_.load)
 {
     connect(&watch_, &StoredWatch::read, this, &StoredFlow::take_over);
+    // A change may be undone, an edit of a name or a dialog may end.
+    connect(&lists_.steps(), &UndoSteps::ended, this, &StoredFlow::look_again);
+    connect(qApp, &QApplication::focusChanged, this, &StoredFlow::look_again);
 }
 
 StoredFlow::Start StoredFlow::read_start(const StoredFiles& files)
 {
-    Start start{.commands = files.load(), .last = nullptr};
+    Start start;
     try {
-        start.last = files.read_last();
+        start.commands = files.load();
+    } catch (const std::exception&) {
+        start.failure = std::current_exception();
+    }
+    try {
+        if (start.failure)
+            start.unusable = files.read_text();
+        else
+            start.last = files.read_last();
     } catch (const std::exception& error) {
-        // Nothing about this file may stop the start: at worst another command is current.
-        qDebug() << "The last command can't be read:" << error.what();
+        // Nothing about the last command's file may stop the start: at worst another command is current.
+        qDebug() << "A file can't be read at the start:" << error.what();
     }
     return start;
 }
@@ -77,22 +88,31 @@ void StoredFlow::take_start()
 {
     const bool is_late = std::exchange(has_loaded_, true);
     watch_.start();
-    try {
-        Start start = start_.take();
-        if (is_late) {
-            take_over(start.commands);
-            return;
-        }
-        stored_.fill(std::move(start.commands));
-        emit loaded(true, std::move(start.last));
-    } catch (const std::exception& error) {
-        // With the window, which has to listen for selections however long the box stays.
-        QTimer::singleShot(0, &window_, [&window = window_, failure = std::runtime_error(error.what())] {
-            MessageBoxes::show_failure(&window, MessageBoxes::tr("Failed to load stored commands"), failure);
-        });
+    Start start = start_.take();
+    if (start.failure) {
+        take_failure(start);
         if (!is_late)
             emit loaded(false, nullptr);
+    } else if (is_late && (is_in_use() || lists_.steps().stack().count() > 0)) {
+        take_over(start.commands);
+    } else {
+        stored_.fill(std::move(start.commands));
+        emit loaded(true, std::move(start.last));
     }
+}
+
+void StoredFlow::take_failure(const Start& start)
+{
+    if (start.unusable)
+        stored_.set_unusable(*start.unusable);
+    // With the window, which has to listen for selections however long the box stays.
+    QTimer::singleShot(0, &window_, [&window = window_, failure = start.failure] {
+        try {
+            std::rethrow_exception(failure);
+        } catch (const std::exception& error) {
+            MessageBoxes::show_failure(&window, MessageBoxes::tr("Failed to load stored commands"), error);
+        }
+    });
 }
 
 bool StoredFlow::save()
@@ -206,10 +226,24 @@ void StoredFlow::call_off()
         question_->reject();
 }
 
+bool StoredFlow::is_in_use() const
+{
+    return is_busy_ || stored_.has_unsaved_changes() || QApplication::activeModalWidget() ||
+           QApplication::activePopupWidget() || QApplication::mouseButtons() != Qt::NoButton ||
+           is_edit_of_row(window_.focusWidget());
+}
+
 void StoredFlow::take_over(const commands_file::Loaded& loaded)
 {
-    const bool is_in_use = is_busy_ || stored_.has_unsaved_changes() || QApplication::activeModalWidget() ||
-                           is_edit_of_row(window_.focusWidget());
-    if (!is_in_use && stored_.is_news(loaded))
+    if (!stored_.is_news(loaded))
+        return;
+    is_news_put_off_ = is_in_use();
+    if (!is_news_put_off_)
         stored_.take_over(loaded);
+}
+
+void StoredFlow::look_again()
+{
+    if (is_news_put_off_ && !is_in_use())
+        watch_.look_soon();
 }

@@ -7,6 +7,7 @@
 #include <QDialog>
 #include <QPointer>
 
+#include <exception>
 #include <memory>
 #include <optional>
 
@@ -45,8 +46,9 @@ public:
     void call_off();
 
 signals:
-    /// Once. When the commands file can't be used the lists are empty, and the user is told once events are
-    /// processed. `last` is the command of the last run, null for none; with `usable` false it is none.
+    /// When the commands file can't be used the lists are empty, and the user is told once events are processed.
+    /// `last` is the command of the last run, null for none; with `usable` false it is none. Once, and once more when
+    /// the user didn't wait for the file, it comes after all, and the lists are still as empty as they were.
     void loaded(bool usable, std::shared_ptr<VellumarkCommand> last);
 
 private:
@@ -56,11 +58,16 @@ private:
     struct Start {
         commands_file::Loaded commands;
         std::shared_ptr<VellumarkCommand> last;
+        std::exception_ptr failure;          ///< null where there are commands
+        std::optional<std::string> unusable; ///< the file that has led to the failure
     };
 
     static Start read_start(const StoredFiles& files);
     void wait_for_start();
     void take_start();
+    void take_failure(const Start& start);
+    bool is_in_use() const;
+    void look_again();
     /// Asks about the missing command unless it may be missing, and tells then whether it may.
     bool may_save(bool& may_lack_configure_command);
     /// Whatever fails is shown to the user.
@@ -78,7 +85,8 @@ private:
     const StoredFiles files_;
     BackgroundValue<Start> start_;
     bool has_loaded_ = false;
-    bool is_busy_ = false; ///< while a save is on its way
+    bool is_busy_ = false;         ///< while a save is on its way
+    bool is_news_put_off_ = false; ///< the window was in use when another program had changed the file
     QPointer<QDialog> question_;
     StoredWatch watch_;
 };

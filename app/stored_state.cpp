@@ -39,8 +39,6 @@ bool StoredState::has_unsaved_changes() const
 PendingSave StoredState::save() const
 {
     PendingSave save = save_over_all();
-    if (!is_loaded_)
-        return save;
     save.saving.old = old_file_;
     save.saving.known = given_up_;
     if (text_)

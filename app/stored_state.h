@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 class CommandLists;
@@ -28,6 +29,9 @@ public:
 
     /// Takes what was loaded for the lists and presets, which count as saved.
     void fill(commands_file::Loaded loaded);
+
+    /// That there is such a file is known, but of no use: a save may replace it, and keeps it.
+    void set_unusable(std::string text) { text_ = std::move(text); }
 
     bool has_unsaved_changes() const;
 
@@ -59,7 +63,7 @@ private:
     CommandLists& lists_;
     Presets& presets_;
     bool is_loaded_ = false;
-    std::optional<std::string> text_;   ///< of the file that was loaded or saved last
+    std::optional<std::string> text_;   ///< of the file that was found or saved last
     std::vector<std::string> given_up_; ///< texts of saves since
-    OldFile old_file_ = OldFile::Replaced;
+    OldFile old_file_ = OldFile::Kept;
 };

@@ -22,13 +22,17 @@ constexpr std::chrono::milliseconds time_to_rest{100};
 /// At the end, with a watcher that a disk holds up.
 constexpr std::chrono::milliseconds patience{200};
 
-/// The file itself is another one after each save, though the watcher takes it for the one that it knows.
+/// The file itself is another one after each save, though the watcher takes it for the one that it knows. Where there
+/// is no folder for it yet, the one that it will be made in tells of that.
 void watch_anew(QFileSystemWatcher& watcher)
 {
     const std::u16string path = MVConfig::get_global().path(FileKind::UserCommands);
     const QString file = QFile::decodeName(QByteArray::fromStdString(platform::to_host_path(path)));
+    QFileInfo folder(QFileInfo(file).path());
+    while (!folder.exists() && !folder.isRoot())
+        folder.setFile(folder.path());
     watcher.removePath(file);
-    watcher.addPaths({file, QFileInfo(file).path()});
+    watcher.addPaths({file, folder.filePath()});
 }
 
 }
@@ -38,9 +42,8 @@ StoredWatch::StoredWatch(QObject& window, std::function<commands_file::Loaded()>
 {
     look_timer_.setSingleShot(true);
     look_timer_.setInterval(time_to_rest);
-    const auto look_soon = [this] { look_timer_.start(); };
-    connect(watcher_, &QFileSystemWatcher::directoryChanged, this, look_soon);
-    connect(watcher_, &QFileSystemWatcher::fileChanged, this, look_soon);
+    connect(watcher_, &QFileSystemWatcher::directoryChanged, this, &StoredWatch::look_soon);
+    connect(watcher_, &QFileSystemWatcher::fileChanged, this, &StoredWatch::look_soon);
     connect(this, &StoredWatch::watch_wanted, watcher_, [watcher = watcher_] { watch_anew(*watcher); });
     connect(thread_.get(), &QThread::finished, watcher_, &QObject::deleteLater);
     connect(&look_timer_, &QTimer::timeout, this, &StoredWatch::look);
@@ -72,7 +75,7 @@ void StoredWatch::file_written()
 bool StoredWatch::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::WindowActivate)
-        look_timer_.start();
+        look_soon();
     return QObject::eventFilter(watched, event);
 }
 
@@ -92,7 +95,7 @@ void StoredWatch::take()
     is_reading_ = false;
     emit watch_wanted(QPrivateSignal());
     if (std::exchange(is_outdated_, false)) {
-        look_timer_.start();
+        look_soon();
         return;
     }
     commands_file::Loaded loaded;

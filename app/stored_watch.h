@@ -27,6 +27,9 @@ public:
 
     void start();
 
+    /// Reads the file once it has come to rest.
+    void look_soon() { look_timer_.start(); }
+
     /// The program itself has written the file: what is being read is of no use.
     void file_written();
 

@@ -36,6 +36,11 @@ Loaded read_user_file()
     return loaded;
 }
 
+std::string read_user_text()
+{
+    return read_text_file(MVConfig::get_global().path(FileKind::UserCommands));
+}
+
 Loaded load_user_file()
 {
     Loaded loaded = read_user_file();

@@ -24,6 +24,9 @@ struct Loaded {
 /// The user's file alone; without one nothing.
 Loaded read_user_file();
 
+/// What lies in the user's file, whatever it is.
+std::string read_user_text();
+
 /// The user's commands; those of the default file when the user's file is missing or has an empty menu. A broken
 /// user's file throws: the defaults don't stand in for it.
 Loaded load_user_file();

@@ -57,7 +57,8 @@ std::u16string MVConfigLive::path(FileKind kind) const
     }
     for (const std::u16string& folder : platform::machine_settings_folders()) {
         std::u16string path = joined(folder, u"\\Mirvanta Software\\Vellumark\\").append(commands_name);
-        if (platform::exists(path))
+        // A folder that may not be searched has nothing to offer.
+        if (const auto file = platform::file_attributes(path); file && !file->is_folder)
             return path;
     }
     return joined(install_folder(), commands_name);
