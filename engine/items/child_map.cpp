@@ -4,19 +4,24 @@
 #include "platform/paths.h"
 
 #include <algorithm>
+#include <compare>
 #include <utility>
 
 bool ChildMap::name_less(std::u16string_view left, std::u16string_view right)
 {
     const std::size_t common = std::min(left.size(), right.size());
+    bool differ = false;
     for (std::size_t i = 0; i < common; ++i) {
         if (left[i] == right[i])
             continue;
         const char16_t left_unit = to_lower(left[i]), right_unit = to_lower(right[i]);
         if (left_unit != right_unit)
             return left_unit < right_unit;
+        differ = true;
     }
-    return left.size() == right.size() ? platform::compare_names(left, right) < 0 : left.size() < right.size();
+    if (left.size() != right.size())
+        return left.size() < right.size();
+    return differ && std::is_lt(platform::compare_names(left, right));
 }
 
 bool ChildMap::ByName::operator()(const std::shared_ptr<MVItemBase>& left,

@@ -112,7 +112,7 @@ void MVItemFolder::read_and_merge(const CancelTest& cancelled) const
 /// The child that there is for an entry, brought up to date, or the entry itself.
 std::shared_ptr<MVItemBase> MVItemFolder::child_for(const std::shared_ptr<MVItemBase>& entry) const
 {
-    const std::shared_ptr<MVItemBase> child = children_.find(entry->name());
+    std::shared_ptr<MVItemBase> child = children_.find(entry->name());
     if (!child)
         return entry;
     if (child->is_folder() != entry->is_folder()) {

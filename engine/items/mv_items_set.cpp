@@ -46,10 +46,12 @@ std::shared_ptr<MVItemFolder> child_folder(MVItemFolder& parent, std::u16string_
 /// name.
 std::shared_ptr<MVItemFolder> top_level_folder(MVItemFolder& root, std::u16string_view head)
 {
-    std::u16string other_case(head);
-    if (other_case[1] == u':')
-        other_case[0] ^= u'a' ^ u'A';
-    return child_folder(root, root.children().find(other_case) ? other_case : head, false);
+    if (head[1] == u':' && !root.children().find(head)) {
+        const char16_t other_case[]{static_cast<char16_t>(head[0] ^ u'a' ^ u'A'), u':'};
+        if (const std::u16string_view other(other_case, 2); root.children().find(other))
+            return child_folder(root, other, false);
+    }
+    return child_folder(root, head, false);
 }
 
 }
