@@ -14,8 +14,9 @@ namespace {
 constexpr double block_target = 16;
 constexpr const char* scenario = "100,000 files selected";
 
-constexpr std::string_view names = R"({"commandType":"Vellumark","name":"n","separator":"\n","fileParts":[
-    {"item-type":"name","name-type":"full-name"}]})";
+/// Of which the preview has next to nothing to do.
+constexpr std::string_view one_letter =
+    R"({"commandType":"Vellumark","name":"n","separator":"","startText":"x","fileParts":[]})";
 
 }
 
@@ -26,7 +27,7 @@ void measure_selections(Report& report)
     for (const std::u16string& path : files.paths())
         paths += to_qstring(path);
     const QStringList one_less = paths.mid(1);
-    AppWindow window(names);
+    AppWindow window(one_letter);
     window.select(one_less);
     LoopWatch watch;
     double slowest = 0;
