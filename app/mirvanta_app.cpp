@@ -148,7 +148,6 @@ void MirvantaApp::on_context_menu_selected(int command_index, const QStringList&
 
 void MirvantaApp::take_selection(int command_index, const std::shared_ptr<NewSelection>& selection)
 {
-    const auto command = active_list().current_command();
     log_failures([&] {
         selected_items_->swap(selection->items);
         ui_->show_silent_items(selection->silent);
@@ -162,10 +161,7 @@ void MirvantaApp::take_selection(int command_index, const std::shared_ptr<NewSel
         }
     });
     // However much of it was taken: texts were given up for it, and whoever waits for new ones waits for this.
-    log_failures([&] {
-        if (active_list().current_command() == command)
-            editors_.refresh();
-    });
+    log_failures([&] { editors_.refresh(); });
     log_failures([&] {
         menu_list().model().refresh_rows();
         library_list().model().refresh_rows();

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <exception>
-#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -56,7 +55,7 @@ std::vector<PathAnswer> PathLooks::answers_of(quint64 selection, const QStringLi
         note_silent_folders(*round);
         if (round->missing != missing)
             last_answer = Clock::now();
-        else if (!go_on(*round, Clock::now() - last_answer))
+        if (!go_on(*round, Clock::now() - last_answer))
             break;
     }
     round->is_closed = true;
@@ -72,6 +71,7 @@ void PathLooks::start(Round& round)
     // Half of what is left, so that silent paths leave threads to later selections.
     const std::size_t threads = (most_threads - workers_.size() + 1) / 2;
     round.most_workers = workers_.size() + threads;
+    last_answers_.clear();
     // As many ranges as there may be threads.
     round.queue.share_out(threads);
     note_silent_folders(round);
@@ -93,13 +93,13 @@ void PathLooks::start_worker()
     const auto worker = workers_.emplace(workers_.end());
     try {
         std::thread([self = shared_from_this(), worker] { self->work(worker); }).detach();
-    } catch (const std::system_error& error) {
+    } catch (const std::exception& error) {
         qDebug() << "No thread to look at paths:" << error.what();
         workers_.erase(worker);
     }
 }
 
-/// No answer has come for a while: hands on what the round's threads have yet to ask, to more threads than before.
+/// The round is not at its end after a while: hands on what its threads have yet to ask, to more threads than before.
 /// False when no answer can be expected any more.
 bool PathLooks::go_on(Round& round, Clock::duration without_answer)
 {
@@ -119,16 +119,23 @@ bool PathLooks::go_on(Round& round, Clock::duration without_answer)
     add_workers(round, std::max<std::size_t>(busy, 1));
     const bool will_ask_put_off =
         round.queue.put_off() != 0 && !round.queue.asks_put_off() && before < most_for_put_off;
-    return is_expected || workers_.size() != before || will_ask_put_off;
+    return without_answer < step() || is_expected || workers_.size() != before || will_ask_put_off;
 }
 
 void PathLooks::note_silent_folders(Round& round) const
 {
     std::vector<QString> silent;
     for (const auto before = Clock::now() - step(); const Worker& worker : workers_)
-        if (!worker.askers.empty() && worker.asked_at < before)
+        if (!worker.askers.empty() && worker.asked_at < before && !is_slow(folder_of(worker.path)))
             silent.push_back(worker.path);
     round.queue.set_silent(silent);
+}
+
+/// It keeps threads waiting, but answers.
+bool PathLooks::is_slow(QStringView folder) const
+{
+    const auto answer = last_answers_.find(folder.toString());
+    return answer != last_answers_.end() && answer->second > Clock::now() - patience_ / 4;
 }
 
 void PathLooks::work(Workers::iterator worker)
@@ -181,6 +188,8 @@ bool PathLooks::shares_look(const Asker& asker)
         workers_, [&](const Worker& worker) { return !worker.askers.empty() && worker.path == path; });
     if (asking == workers_.end())
         return false;
+    // A path that never answers is not to gather those who have gone.
+    std::erase_if(asking->askers, [](const Asker& other) { return other.round->is_closed; });
     asking->askers.push_back(asker);
     asking->deadline = Clock::now() + patience_;
     return true;
@@ -198,6 +207,7 @@ PathLooks::Attributes PathLooks::look_at(const QString& path) const
 
 void PathLooks::tell(Worker& worker, const Attributes& attributes)
 {
+    last_answers_[folder_of(worker.path).toString()] = Clock::now();
     for (const auto& [round, index] : worker.askers) {
         if (round->is_closed)
             continue;

@@ -11,6 +11,7 @@
 #include <cstddef>
 #include <functional>
 #include <list>
+#include <map>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -72,6 +73,7 @@ private:
     void start(Round& round);
     bool go_on(Round& round, Clock::duration without_answer);
     void note_silent_folders(Round& round) const;
+    bool is_slow(QStringView folder) const;
     void add_workers(const Round& round, std::size_t number);
     void start_worker();
 
@@ -89,4 +91,5 @@ private:
     std::condition_variable changed_;
     std::shared_ptr<Round> round_; ///< null when none is in progress
     Workers workers_;
+    std::map<QString, Clock::time_point> last_answers_; ///< from each folder, since the round began
 };

@@ -3,15 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-namespace {
-
-QStringView folder_of(const QString& path)
-{
-    return QStringView(path).left(path.lastIndexOf(u'\\') + 1);
-}
-
-}
-
 void PathQueue::share_out(std::size_t ranges)
 {
     const auto number = static_cast<std::size_t>(paths_.size());

@@ -8,6 +8,12 @@
 #include <optional>
 #include <vector>
 
+/// What a path in drive or server form begins with, up to its last backslash.
+inline QStringView folder_of(const QString& path)
+{
+    return QStringView(path).left(path.lastIndexOf(u'\\') + 1);
+}
+
 /// The paths of a selection that have yet to be asked, by their indices. Those in folders that keep a thread waiting
 /// are put off until the others have been asked. Not guarded.
 class PathQueue

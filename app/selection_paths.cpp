@@ -1,11 +1,14 @@
 #include "app/selection_paths.h"
 
 #include "engine/items/delete_elsewhere.h"
+#include "engine/items/mv_item_folder.h"
 #include "ui/text.h"
 
 #include <QDebug>
 
 #include <exception>
+#include <ranges>
+#include <vector>
 
 namespace {
 
@@ -34,8 +37,20 @@ std::shared_ptr<NewSelection> select_paths(const QStringList& paths, std::span<c
 
 std::shared_ptr<const MVItemBase> standing_alone(const MVItemBase& item)
 {
-    auto alone = std::make_shared<MVItemsSet>();
-    const platform::FileAttributes& attributes = item.info();
-    alone->add_path(item.full_path(), attributes);
-    return {alone, alone->items().front().get()};
+    struct Lineage {
+        std::vector<std::unique_ptr<const MVItemFolder>> folders; ///< from the root on
+        std::shared_ptr<const MVItemBase> item;
+    };
+
+    std::vector<const MVItemFolder*> ancestors;
+    for (const MVItemFolder* folder = item.parent(); folder; folder = folder->parent())
+        ancestors.push_back(folder);
+    const auto alone = std::make_shared<Lineage>();
+    const MVItemFolder* parent = nullptr;
+    for (const MVItemFolder* ancestor : std::views::reverse(ancestors)) {
+        alone->folders.push_back(std::make_unique<const MVItemFolder>(ancestor->info(), parent));
+        parent = alone->folders.back().get();
+    }
+    alone->item = make_item(item.info(), parent);
+    return {alone, alone->item.get()};
 }

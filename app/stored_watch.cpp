@@ -12,6 +12,8 @@
 #include <QThread>
 
 #include <chrono>
+#include <exception>
+#include <memory>
 #include <utility>
 
 namespace {
@@ -86,7 +88,7 @@ void StoredWatch::look()
     is_outdated_ = is_reading_;
     if (std::exchange(is_reading_, true))
         return;
-    reading_.emplace(load_);
+    reading_ = std::make_unique<BackgroundValue<commands_file::Loaded>>(load_);
     connect(&reading_->job(), &BackgroundJob::done, this, &StoredWatch::take);
 }
 

@@ -8,7 +8,6 @@
 
 #include <functional>
 #include <memory>
-#include <optional>
 
 class QFileSystemWatcher;
 class QThread;
@@ -50,7 +49,7 @@ private:
     std::unique_ptr<QThread> thread_;
     QFileSystemWatcher* watcher_; ///< of `thread_`, for it looks at the disk
     QTimer look_timer_;           ///< runs from a change of the files until they have come to rest
-    std::optional<BackgroundValue<commands_file::Loaded>> reading_; ///< the last one
+    std::unique_ptr<BackgroundValue<commands_file::Loaded>> reading_; ///< the last one; null for none
     bool is_started_ = false;
     bool is_reading_ = false;
     bool is_outdated_ = false; ///< the file has changed since the reading began

@@ -53,8 +53,6 @@ private:
         case u'*':
         case u'+':
         case u'?': translate_repeat(unit, had_atom); break;
-        case u']':
-        case u'}': throw PatternError("nothing is open", start_);
         case u'\\': translate_escape(); break;
         case u'[': put(read_class(pattern_)); break;
         case u'.': put({.is_set = true, .set = u"^\n\r\u2028\u2029"}); break;
@@ -77,6 +75,7 @@ private:
             if (kind != u':' && kind != u'=' && kind != u'!')
                 throw PatternError("unknown kind of group", start_);
             is_look_ahead = kind != u':';
+            out_.has_look_aheads |= kind == u'=';
             out_.text.append({u'?', kind});
         } else {
             ++groups_;

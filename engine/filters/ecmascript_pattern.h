@@ -7,6 +7,7 @@
 struct LibraryPattern {
     std::u16string text;
     bool has_back_references = false;
+    bool has_look_aheads = false; ///< those that ask for something
 };
 
 /// A regular expression of ECMAScript (ECMA-262, without its "u" flag and what browsers tolerate beyond it, and with

@@ -44,7 +44,9 @@ Owned<pcre2_code> compile(const LibraryPattern& pattern)
     // Where nothing refers to groups, what they matched needn't be kept and put back on each way.
     const std::uint32_t options = PCRE2_UCP | PCRE2_DOLLAR_ENDONLY | PCRE2_ALLOW_EMPTY_CLASS |
                                   PCRE2_MATCH_UNSET_BACKREF |
-                                  (pattern.has_back_references ? 0 : PCRE2_NO_AUTO_CAPTURE);
+                                  (pattern.has_back_references ? 0 : PCRE2_NO_AUTO_CAPTURE) |
+                                  // What it would look for first, the look-ahead may have taken already.
+                                  (pattern.has_look_aheads ? PCRE2_NO_START_OPTIMIZE : 0);
     int error = 0;
     PCRE2_SIZE error_at = 0;
     return Owned<pcre2_code>(

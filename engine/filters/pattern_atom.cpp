@@ -68,9 +68,10 @@ PatternAtom read_named(PatternText& pattern, char16_t kind)
         return {.unit = name[0]};
     if (name.size() == 1)
         return {.is_set = true, .set = {u'\\', name[0]}};
-    // With case ignored every letter is of either.
-    const bool is_cased = name == u"upper" || name == u"lower";
-    return {.is_set = true, .set = u"[:" + std::u16string(is_cased ? u"alpha" : name) + u":]"};
+    // With case ignored every letter that has one is of either.
+    if (name == u"upper" || name == u"lower")
+        return {.is_set = true, .set = u"\\p{L&}"};
+    return {.is_set = true, .set = u"[:" + std::u16string(name) + u":]"};
 }
 
 PatternAtom read_class_atom(PatternText& pattern)
@@ -130,5 +131,8 @@ PatternAtom read_class(PatternText& pattern)
 
 std::u16string library_text(const PatternAtom& atom)
 {
-    return atom.is_set ? u'[' + atom.set + u']' : literal(to_lower(atom.unit));
+    if (!atom.is_set)
+        return literal(to_lower(atom.unit));
+    // The library doesn't repeat an empty class.
+    return atom.set.empty() ? u"(?:[])" : u'[' + atom.set + u']';
 }

@@ -51,7 +51,9 @@ void VellumarkThread::join_finished(std::unique_lock<std::mutex>& lock)
 {
     std::thread finished = std::move(thread_);
     lock.unlock();
-    if (finished.joinable())
+    if (finished.get_id() == std::this_thread::get_id())
+        finished.detach();
+    else if (finished.joinable())
         finished.join();
     lock.lock();
 }

