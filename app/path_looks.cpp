@@ -159,15 +159,20 @@ bool PathLooks::take_next(Worker& worker)
     if (!worker.round || is_over(*worker.round))
         return false;
     PathQueue& queue = worker.round->queue;
-    while (const auto index = queue.next(worker.rest))
-        if (!shares_look({worker.round, *index}) && !queue.puts_off(*index))
-            return ask(worker, *index);
+    const auto is_for_later = [&](std::size_t index) {
+        return shares_look({worker.round, index}) || queue.puts_off(index);
+    };
+    auto index = queue.next(worker.rest);
+    while (index && is_for_later(*index))
+        index = queue.next(worker.rest);
+    if (index)
+        return ask(worker, *index);
     while (workers_.size() <= most_for_put_off) {
-        const auto index = queue.next_put_off();
-        if (!index)
+        const auto put_off = queue.next_put_off();
+        if (!put_off)
             return false;
-        if (!shares_look({worker.round, *index}))
-            return ask(worker, *index);
+        if (!shares_look({worker.round, *put_off}))
+            return ask(worker, *put_off);
     }
     return false;
 }
