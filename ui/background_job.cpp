@@ -21,7 +21,7 @@ struct BackgroundJob::Run {
     BackgroundJob* receiver = nullptr; ///< null once nobody waits any more
 };
 
-BackgroundJob::BackgroundJob(std::function<void()> work) : run_(std::make_shared<Run>())
+BackgroundJob::BackgroundJob(const std::function<void()>& work) : run_(std::make_shared<Run>())
 {
     run_->receiver = this;
     connect(this, &BackgroundJob::ended, this, &BackgroundJob::done, Qt::QueuedConnection);

@@ -16,7 +16,7 @@ class BackgroundJob final : public QObject
 public:
     /// Starts. The work owns all that it uses, for it may outlast this object, and throws nothing. Where no thread
     /// can be had it is done before this returns.
-    explicit BackgroundJob(std::function<void()> work);
+    explicit BackgroundJob(const std::function<void()>& work);
     /// Waits for nobody.
     ~BackgroundJob() override;
 
