@@ -1,6 +1,7 @@
 #include "ui/preview/exemplar_item.h"
 
 #include "engine/properties/item_property_reader.h"
+#include "platform/properties.h"
 #include "ui/text.h"
 
 #include <QDebug>
@@ -13,57 +14,48 @@
 #include <thread>
 #include <utility>
 
-namespace {
-
-using Properties = std::vector<ExemplarProperty>;
-
-Properties read_properties(const std::u16string& path)
-{
-    Properties properties;
-    ItemPropertyReader reader(path);
-    const auto names = reader.property_names();
-    reader.load_display_values(names);
-    for (const std::u16string& name : names)
-        properties.push_back({to_qstring(name), to_qstring(platform::property_display_name(name)),
-                              to_qstring(reader.display_value(name))});
-    return properties;
-}
-
-Properties properties_or_none(const std::u16string& path)
-{
-    try {
-        return read_properties(path);
-    } catch (const std::exception& error) {
-        qDebug() << "No properties of the example:" << error.what();
-        return {};
-    }
-}
-
-}
-
 struct ExemplarItem::Reading {
-    void end(Properties result)
+    /// Changes what is known; false when nobody wants it any more.
+    template <typename Change>
+    bool tell(Change change)
     {
         const std::lock_guard lock(mutex);
-        properties = std::move(result);
-        done = true;
-        ended.notify_all();
-        if (receiver)
+        change(known);
+        if (receiver && !std::exchange(told, true))
             emit receiver->properties_read();
+        return receiver != nullptr;
     }
 
-    bool is_done()
-    {
-        const std::lock_guard lock(mutex);
-        return done;
-    }
+    void read(const std::u16string& path);
+    void end();
 
     std::mutex mutex;
     std::condition_variable ended;
     ExemplarItem* receiver; ///< null once it has gone
-    bool done = false;
-    Properties properties; ///< doesn't change once it is done
+    bool told = false;      ///< and hasn't asked since
+    ExemplarProperties known;
 };
+
+void ExemplarItem::Reading::read(const std::u16string& path)
+{
+    platform::FileProperties file(path);
+    const std::vector<std::u16string> names = file.names();
+    std::vector<ExemplarProperty> list;
+    for (const std::u16string& name : names)
+        list.push_back({to_qstring(name), to_qstring(platform::property_display_name(name)), {}});
+    bool wanted = tell([&](ExemplarProperties& now) { now.list = std::move(list); });
+    for (std::size_t i = 0; i < names.size() && wanted; ++i)
+        if (const auto text = file.display_text(names[i]))
+            wanted = tell([&](ExemplarProperties& now) {
+                now.list[i].value_text = to_qstring(without_direction_marks(*text));
+            });
+}
+
+void ExemplarItem::Reading::end()
+{
+    tell([](ExemplarProperties& now) { now.complete = true; });
+    ended.notify_all();
+}
 
 ExemplarItem::ExemplarItem(std::shared_ptr<const MVItemBase> item) : item_(std::move(item)) {}
 
@@ -72,24 +64,32 @@ ExemplarItem::~ExemplarItem()
     finish_reading({});
 }
 
-const std::vector<ExemplarProperty>* ExemplarItem::properties()
+ExemplarProperties ExemplarItem::properties()
 {
     if (!reading_)
         begin_reading();
-    return reading_->is_done() ? &reading_->properties : nullptr;
+    const std::lock_guard lock(reading_->mutex);
+    reading_->told = false;
+    return reading_->known;
 }
 
 void ExemplarItem::begin_reading()
 {
     reading_ = std::make_shared<Reading>();
     reading_->receiver = this;
+    const auto read = [reading = reading_, path = item_->full_path()] {
+        try {
+            reading->read(path);
+        } catch (const std::exception& error) {
+            qDebug() << "The example's properties:" << error.what();
+        }
+        reading->end();
+    };
     try {
-        std::thread([reading = reading_, path = item_->full_path()] {
-            reading->end(properties_or_none(path));
-        }).detach();
+        std::thread(read).detach();
     } catch (const std::system_error& error) {
         qDebug() << "No thread for the example's properties:" << error.what();
-        reading_->end({});
+        reading_->end();
     }
 }
 
@@ -99,5 +99,5 @@ void ExemplarItem::finish_reading(std::chrono::milliseconds longest)
         return;
     std::unique_lock lock(reading_->mutex);
     reading_->receiver = nullptr;
-    reading_->ended.wait_for(lock, longest, [this] { return reading_->done; });
+    reading_->ended.wait_for(lock, longest, [this] { return reading_->known.complete; });
 }

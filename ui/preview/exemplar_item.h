@@ -13,9 +13,17 @@
 struct ExemplarProperty {
     QString canonical_name;
     QString display_name;
-    QString value_text; ///< empty when the item doesn't have the property
+    QString value_text; ///< empty when the item doesn't have the property, or it isn't read yet
 
     bool operator==(const ExemplarProperty&) const = default;
+};
+
+/// What is known so far of the properties of a sample item.
+struct ExemplarProperties {
+    /// All that the item can have, in the system's order. They come at once, their values one after the other. Empty
+    /// before that, and for an item that is gone or can't be read.
+    std::vector<ExemplarProperty> list;
+    bool complete = false; ///< nothing more comes
 };
 
 /// An item that stands for the selection where one example is enough. Main thread only.
@@ -30,15 +38,15 @@ public:
 
     const MVItemBase& item() const { return *item_; }
 
-    /// All properties that the item can have, in the system's order; null until they are read. The first call begins
-    /// that, in the background.
-    const std::vector<ExemplarProperty>* properties();
+    /// The first call begins to read them, in the background.
+    ExemplarProperties properties();
 
-    /// Waits so long at the most for a read in progress. Nobody is told of its end any more.
+    /// Ends a read in progress before its next property and waits so long at the most for that. Nobody is told of
+    /// anything any more.
     void finish_reading(std::chrono::milliseconds longest);
 
 signals:
-    /// Comes from the thread that reads.
+    /// More of them are there than the last call gave; comes once between two calls, from the thread that reads.
     void properties_read();
 
 private:

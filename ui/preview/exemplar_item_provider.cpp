@@ -1,5 +1,7 @@
 #include "ui/preview/exemplar_item_provider.h"
 
+#include <QTimer>
+
 #include <utility>
 
 ExemplarItemProvider::~ExemplarItemProvider()
@@ -17,6 +19,8 @@ void ExemplarItemProvider::set_item(std::shared_ptr<const MVItemBase> item)
         if (!item_in_place.expired())
             emit exemplar_properties_read();
     };
-    connect(exemplar_.get(), &ExemplarItem::properties_read, this, pass_on, Qt::QueuedConnection);
+    // Others mostly follow the one that is told of.
+    const auto gather = [this, pass_on] { QTimer::singleShot(std::chrono::milliseconds(50), this, pass_on); };
+    connect(exemplar_.get(), &ExemplarItem::properties_read, this, gather, Qt::QueuedConnection);
     emit exemplar_item_changed();
 }

@@ -20,7 +20,7 @@ public:
 signals:
     /// Another item, none of whose properties are read.
     void exemplar_item_changed();
-    /// The exemplar's properties have been asked for and are there now.
+    /// More of the exemplar's properties have come since they were asked for.
     void exemplar_properties_read();
 
 private:
