@@ -1,6 +1,7 @@
 #include "ui/widgets/variable_size_text_edit.h"
 
 #include "ui/text.h"
+#include "ui/widgets/field_manners.h"
 #include "ui/widgets/visible_whitespace.h"
 
 #include <QFontDatabase>
@@ -26,11 +27,6 @@ QString marked_text(const QString& text)
     return visible_whitespace(text).replace(line_feed_mark, QString(line_feed_mark) + u'\n');
 }
 
-bool is_undo_or_redo(const QKeyEvent& event)
-{
-    return event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo);
-}
-
 }
 
 int fitted_height(double document_height)
@@ -45,6 +41,8 @@ VariableSizeTextEdit::VariableSizeTextEdit(QWidget* parent) : QTextEdit(parent)
     setFont(font);
     setAcceptRichText(false);
     setUndoRedoEnabled(false);
+    // The base class claims the keys of undo even so.
+    leave_undo_to_window(*this);
     setLineWrapMode(NoWrap);
     // A bar would cover the text of a box that is one line high; the view follows the cursor without it.
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -82,16 +80,6 @@ void VariableSizeTextEdit::text_changed()
     emit size_changed();
 }
 
-bool VariableSizeTextEdit::event(QEvent* event)
-{
-    // The base class claims the keys of undo even with its own undo off, and the window would never see them.
-    if (event->type() == QEvent::ShortcutOverride && is_undo_or_redo(*static_cast<QKeyEvent*>(event))) {
-        event->ignore();
-        return true;
-    }
-    return QTextEdit::event(event);
-}
-
 void VariableSizeTextEdit::focusInEvent(QFocusEvent* event)
 {
     show_plain();
@@ -127,8 +115,6 @@ void VariableSizeTextEdit::keyPressEvent(QKeyEvent* event)
 {
     if (event->modifiers() == Qt::ControlModifier && event->key() == Qt::Key_Tab)
         leave(true);
-    else if (is_undo_or_redo(*event))
-        event->ignore();
     else
         QTextEdit::keyPressEvent(event);
 }
