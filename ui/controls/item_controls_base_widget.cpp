@@ -1,0 +1,161 @@
+#include "ui/controls/item_controls_base_widget.h"
+
+#include "ui/widgets/field_manners.h"
+
+#include <QFocusEvent>
+#include <QFormLayout>
+#include <QGridLayout>
+#include <QPushButton>
+#include <QScopedValueRollback>
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+ItemControlsBaseWidget::ItemControlsBaseWidget(TemplateEdits& edits, QWidget* parent)
+    : QWidget(parent), edits_(edits), rows_(new QGridLayout(this)), form_(new QFormLayout),
+      delete_button_(new QPushButton(tr("Delete")))
+{
+    form_->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    rows_->addLayout(form_, 1, 0);
+    rows_->addWidget(delete_button_, 1, 1, Qt::AlignBottom);
+    rows_->setColumnStretch(0, 1);
+    // Return in a field must not press it.
+    delete_button_->setAutoDefault(false);
+    connect(delete_button_, &QPushButton::clicked, this, &ItemControlsBaseWidget::delete_requested);
+}
+
+void ItemControlsBaseWidget::set_position(int position)
+{
+    position_ = position;
+    refresh();
+}
+
+void ItemControlsBaseWidget::refresh()
+{
+    if (!changing_)
+        show_part(nullptr);
+}
+
+std::shared_ptr<const ItemPartBase> ItemControlsBaseWidget::part() const
+{
+    return position_ < 0 ? nullptr : edits_.parts()->at(static_cast<std::size_t>(position_));
+}
+
+bool ItemControlsBaseWidget::push(const QWidget* cause, const std::shared_ptr<const ItemPartBase>& changed,
+                                  const QString& text, MergeId merge_id)
+{
+    if (changed->equals(*part()))
+        return false;
+    {
+        const QScopedValueRollback guard(changing_, true);
+        edits_.change_part(static_cast<std::size_t>(position_), changed, text, merge_id);
+    }
+    show_part(cause);
+    return true;
+}
+
+void ItemControlsBaseWidget::show_part(const QWidget* but)
+{
+    const auto shown = part();
+    if (!shown)
+        return;
+    for (const Show& entry : shows_) {
+        if (entry.control && entry.control == but)
+            continue;
+        const QSignalBlocker blocker(entry.control);
+        entry.show(*shown);
+    }
+}
+
+bool ItemControlsBaseWidget::event(QEvent* event)
+{
+    const bool known = QWidget::event(event);
+    // By now the layout is up to date, which it isn't yet when a control grows or goes.
+    if (event->type() == QEvent::LayoutRequest) {
+        const int height = sizeHint().height();
+        if (height != std::exchange(height_, height))
+            emit resized();
+    }
+    return known;
+}
+
+bool ItemControlsBaseWidget::eventFilter(QObject* watched, QEvent* event)
+{
+    // A field that is left shows what the part has made of its text. Below its own menu it still is being edited.
+    if (event->type() == QEvent::FocusOut && static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason)
+        refresh();
+    return QWidget::eventFilter(watched, event);
+}
+
+void ItemControlsBaseWidget::add_wide(QWidget* control)
+{
+    rows_->addWidget(control, 0, 0, 1, 2);
+    append_to_tabs(control);
+}
+
+void ItemControlsBaseWidget::add_row(const QString& label, QWidget* control)
+{
+    if (label.isEmpty()) {
+        form_->addRow(control);
+    } else {
+        form_->addRow(label, control);
+        control->setAccessibleName(label);
+    }
+    append_to_tabs(control);
+}
+
+void ItemControlsBaseWidget::append_to_tabs(QWidget* control)
+{
+    setTabOrder(control, delete_button_);
+}
+
+QComboBox* ItemControlsBaseWidget::new_combo(const QString& label, const QStringList& entries)
+{
+    auto* combo = new QComboBox;
+    combo->addItems(entries);
+    leave_wheel_to_page(*combo);
+    add_row(label, combo);
+    return combo;
+}
+
+QCheckBox* ItemControlsBaseWidget::new_check(const QString& text)
+{
+    auto* box = new QCheckBox(text);
+    // Below the fields of the form, not below their labels.
+    form_->addRow(QString(), box);
+    append_to_tabs(box);
+    return box;
+}
+
+void ItemControlsBaseWidget::add_line_row(const QString& label, QLineEdit* edit)
+{
+    edit->setMaxLength(std::numeric_limits<int>::max());
+    edit->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    edit->installEventFilter(this);
+    leave_undo_to_window(*edit);
+    add_row(label, edit);
+}
+
+void ItemControlsBaseWidget::show_line(QLineEdit& edit, const QString& text)
+{
+    if (edit.text() != text)
+        edit.setText(text);
+}
+
+void ItemControlsBaseWidget::show_text(VariableSizeTextEdit& edit, const std::u16string& text)
+{
+    if (edit.stored_text() == text)
+        return;
+    const bool focused = edit.hasFocus();
+    QTextCursor cursor = edit.textCursor();
+    const int position = cursor.position();
+    edit.set_stored_text(text);
+    if (!focused)
+        return;
+    // The text came by undo, and the user goes on typing.
+    cursor.setPosition(std::min(position, static_cast<int>(edit.document()->characterCount()) - 1));
+    edit.setTextCursor(cursor);
+    edit.setFocus();
+}

@@ -1,0 +1,138 @@
+#include "ui/controls/property_table.h"
+
+#include "ui/preview/elided_label.h"
+
+#include <QEvent>
+#include <QHeaderView>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QSet>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <tuple>
+
+namespace {
+
+constexpr int rows_in_view = 8;
+constexpr int room_around_text = 6;
+
+bool stands_before(const ExemplarProperty& one, const ExemplarProperty& other)
+{
+    return std::tie(one.display_name, one.canonical_name) < std::tie(other.display_name, other.canonical_name);
+}
+
+}
+
+PropertyTable::PropertyTable(QWidget* parent) : QTableWidget(0, ColumnCount, parent), hint_(new ElidedLabel)
+{
+    setHorizontalHeaderLabels({tr("Property"), tr("Example Item Value")});
+    setAccessibleName(tr("Property"));
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setTabKeyNavigation(false);
+    setWordWrap(false);
+    setVerticalScrollMode(ScrollPerItem);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setStyleSheet(QStringLiteral("QTableWidget::item:selected{ background-color: #ace8f9; color: black; } "
+                                 "QTableWidget{ outline: 0; }"));
+    horizontalHeader()->setStyleSheet(QStringLiteral("QHeaderView::section{ font-weight: bold; }"));
+    horizontalHeader()->setStretchLastSection(true);
+    horizontalHeader()->setSectionsClickable(false);
+    horizontalHeader()->setHighlightSections(false);
+    verticalHeader()->hide();
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + room_around_text);
+
+    hint_->setAlignment(Qt::AlignCenter);
+    (new QVBoxLayout(viewport()))->addWidget(hint_);
+    connect(this, &QTableWidget::itemSelectionChanged, this, &PropertyTable::tell_choice);
+}
+
+void PropertyTable::fill(std::vector<ExemplarProperty> properties)
+{
+    std::ranges::sort(properties, stands_before);
+    QSet<QString> names;
+    for (const ExemplarProperty& property : properties)
+        names.insert(property.canonical_name);
+
+    const QScopedValueRollback guard(quiet_, true);
+    // Otherwise a neighbour is chosen in place of a row that goes.
+    setSelectionMode(NoSelection);
+    const bool scrolled = verticalScrollBar()->value() > 0;
+    const QPersistentModelIndex top = indexAt({0, 0});
+    for (int row = rowCount() - 1; row >= 0; --row)
+        if (!names.contains(name_at(row)))
+            removeRow(row);
+    for (std::size_t i = 0; i < properties.size(); ++i)
+        put_row(static_cast<int>(i), properties[i]);
+    setSelectionMode(SingleSelection);
+    if (scrolled && top.isValid())
+        scrollTo(top, PositionAtTop);
+    show_hint();
+}
+
+/// The rows before it are in place already, and those behind it are in their order.
+void PropertyTable::put_row(int row, const ExemplarProperty& property)
+{
+    if (row >= rowCount() || name_at(row) != property.canonical_name) {
+        insertRow(row);
+        auto* name = new QTableWidgetItem(property.display_name);
+        name->setData(Qt::UserRole, property.canonical_name);
+        setItem(row, NameColumn, name);
+        setItem(row, ValueColumn, new QTableWidgetItem);
+    }
+    item(row, ValueColumn)->setText(property.value_text);
+}
+
+QString PropertyTable::name_at(int row) const
+{
+    return item(row, NameColumn)->data(Qt::UserRole).toString();
+}
+
+void PropertyTable::set_hint(const QString& hint)
+{
+    hint_->set_text(hint);
+    show_hint();
+}
+
+void PropertyTable::show_hint()
+{
+    hint_->setVisible(rowCount() == 0);
+}
+
+bool PropertyTable::choose(const QString& canonical_name)
+{
+    const QScopedValueRollback guard(quiet_, true);
+    for (int row = 0; row < rowCount(); ++row)
+        if (name_at(row) == canonical_name) {
+            if (!selectionModel()->isRowSelected(row))
+                setCurrentCell(row, NameColumn);
+            return true;
+        }
+    clearSelection();
+    return false;
+}
+
+void PropertyTable::tell_choice()
+{
+    if (quiet_)
+        return;
+    const QModelIndexList rows = selectionModel()->selectedRows();
+    emit chosen(rows.isEmpty() ? QString() : name_at(rows.front().row()));
+}
+
+QSize PropertyTable::sizeHint() const
+{
+    const int rows = rows_in_view * verticalHeader()->defaultSectionSize();
+    return {QTableWidget::sizeHint().width(), horizontalHeader()->sizeHint().height() + rows + 2 * frameWidth()};
+}
+
+void PropertyTable::changeEvent(QEvent* event)
+{
+    QTableWidget::changeEvent(event);
+    if (event->type() != QEvent::FontChange)
+        return;
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + room_around_text);
+    updateGeometry();
+}
