@@ -4,6 +4,8 @@
 #include "ui/app_services.h"
 #include "ui/editor/vellumark_controller.h"
 #include "ui/preview/clipboard_preview_container_widget.h"
+#include "ui/sections/vk_files_to_text_section.h"
+#include "ui/sections/vk_folders_to_text_section.h"
 #include "ui/selection_services.h"
 #include "ui/widgets/disclosure_header.h"
 #include "ui/widgets/grip_splitter.h"
@@ -20,25 +22,39 @@ constexpr QLatin1StringView splitter_key("VKVerticalSplitter");
 
 VellumarkMainWidget::VellumarkMainWidget(AppServices& app, VellumarkController& controller, QWidget* parent)
     : CommandMainWidgetBase(controller, parent), app_(app), header_(new DisclosureHeader(tr("View/Edit"))),
-      splitter_(new GripSplitter(Qt::Vertical)), sections_(new QScrollArea),
-      preview_(new ClipboardPreviewContainerWidget)
+      splitter_(new GripSplitter(Qt::Vertical)), pane_(new QScrollArea), preview_(new ClipboardPreviewContainerWidget)
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(4);
     layout->addWidget(header_);
     layout->addWidget(splitter_, 1);
-    sections_->setWidgetResizable(true);
-    sections_->setAccessibleName(tr("Edit"));
-    sections_->hide();
-    splitter_->addWidget(sections_);
+    pane_->setWidgetResizable(true);
+    pane_->setAccessibleName(tr("Edit"));
+    pane_->setWidget(make_sections());
+    pane_->hide();
+    splitter_->addWidget(pane_);
     splitter_->addWidget(preview_);
     splitter_->setStretchFactor(1, 1);
     connect(header_, &DisclosureHeader::toggled, this, &VellumarkMainWidget::on_view_edit_header_toggled);
 }
 
-void VellumarkMainWidget::set_command(const std::shared_ptr<VellumarkCommand>& /*command*/)
+QWidget* VellumarkMainWidget::make_sections()
 {
+    sections_ = {new VKFilesToTextSection(app_.lists(), app_.exemplar()),
+                 new VKFoldersToTextSection(app_.lists(), app_.exemplar())};
+    auto* content = new QWidget;
+    auto* layout = new QVBoxLayout(content);
+    for (VKSectionWidget* section : sections_)
+        layout->addWidget(section);
+    layout->addStretch();
+    return content;
+}
+
+void VellumarkMainWidget::set_command(const std::shared_ptr<VellumarkCommand>& command)
+{
+    for (VKSectionWidget* section : sections_)
+        section->set_command(command);
     preview_->show_page_for(app_.selection().selected_items()->items().size());
 }
 
@@ -65,7 +81,7 @@ void VellumarkMainWidget::show_preview_progress(const QString& status, const QSt
 void VellumarkMainWidget::set_expanded(bool expanded)
 {
     header_->set_expanded(expanded);
-    sections_->setVisible(expanded);
+    pane_->setVisible(expanded);
 }
 
 void VellumarkMainWidget::save_settings(QSettings& settings) const
@@ -80,5 +96,5 @@ void VellumarkMainWidget::restore_settings(QSettings& settings)
 
 void VellumarkMainWidget::on_view_edit_header_toggled(bool expanded)
 {
-    sections_->setVisible(expanded);
+    pane_->setVisible(expanded);
 }

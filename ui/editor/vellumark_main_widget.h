@@ -3,6 +3,7 @@
 #include "ui/editor/command_main_widget_base.h"
 
 #include <memory>
+#include <vector>
 
 class AppServices;
 class ClipboardPreviewContainerWidget;
@@ -11,6 +12,7 @@ class GripSplitter;
 class QScrollArea;
 class VellumarkCommand;
 class VellumarkController;
+class VKSectionWidget;
 
 /// The page of a file-name command: its editing pane, hidden until the user opens it, above the preview.
 class VellumarkMainWidget final : public CommandMainWidgetBase
@@ -20,7 +22,8 @@ class VellumarkMainWidget final : public CommandMainWidgetBase
 public:
     VellumarkMainWidget(AppServices& app, VellumarkController& controller, QWidget* parent);
 
-    /// Shows a command that the page goes on with: the preview, or how to select something when nothing is selected.
+    /// Shows the command's fields as they now are, and the preview, or how to select something when nothing is
+    /// selected.
     void set_command(const std::shared_ptr<VellumarkCommand>& command);
 
     void set_preview_text(const QString& text);
@@ -38,9 +41,12 @@ private slots:
     void on_view_edit_header_toggled(bool expanded);
 
 private:
+    QWidget* make_sections();
+
     AppServices& app_;
     DisclosureHeader* header_ = nullptr;
     GripSplitter* splitter_ = nullptr;
-    QScrollArea* sections_ = nullptr;
+    QScrollArea* pane_ = nullptr;
+    std::vector<VKSectionWidget*> sections_; ///< in the order shown
     ClipboardPreviewContainerWidget* preview_ = nullptr;
 };

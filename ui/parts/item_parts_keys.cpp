@@ -30,6 +30,7 @@ bool ItemPartsWidget::event(QEvent* event)
 void ItemPartsWidget::keyPressEvent(QKeyEvent* event)
 {
     const bool in_drag = drag_.is_pressed();
+    by_keys_ = true;
     if (in_drag && event->key() == Qt::Key_Escape) {
         drag_.cancel();
         return;
@@ -144,6 +145,7 @@ void ItemPartsWidget::focusInEvent(QFocusEvent* event)
         zone_ = Zone::Palette;
     else if (event->reason() == Qt::BacktabFocusReason && !board_.row().empty())
         zone_ = Zone::Row;
+    by_keys_ = event->reason() != Qt::MouseFocusReason;
     QWidget::focusInEvent(event);
     show_current_chip();
 }
@@ -159,6 +161,7 @@ bool ItemPartsWidget::focusNextPrevChild(bool next)
     const Zone other = next ? Zone::Row : Zone::Palette;
     if (zone_ == other || (next && board_.row().empty()))
         return QWidget::focusNextPrevChild(next);
+    by_keys_ = true;
     set_zone(other);
     return true;
 }

@@ -24,7 +24,7 @@ void ItemPartsWidget::paintEvent(QPaintEvent* event)
         painter.fillRect(shown_rect(metrics.marker(drag_.marker_x())), colours::insertion_marker());
     if (const ChipPointer active = drag_.active())
         paint_chip(painter, *active);
-    if (hasFocus())
+    if (hasFocus() && by_keys_)
         paint_focus(painter);
 }
 
@@ -67,6 +67,7 @@ void ItemPartsWidget::paint_focus(QPainter& painter) const
         return;
     QStyleOptionFocusRect option;
     option.initFrom(this);
+    option.state |= QStyle::State_KeyboardFocusChange;
     option.rect = pixels_of(chip->rect());
     style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
 }

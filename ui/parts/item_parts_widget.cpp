@@ -123,6 +123,7 @@ void ItemPartsWidget::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() != Qt::LeftButton)
         return;
+    by_keys_ = false;
     const QPointF point = board_point(event->position());
     drag_.press(point);
     set_zone(point.y() < board_.metrics().band_top() ? Zone::Palette : Zone::Row);

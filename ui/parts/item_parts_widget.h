@@ -105,6 +105,7 @@ private:
     ChipDrag drag_;
     QTimer animation_timer_;
     Zone zone_ = Zone::Palette;
+    bool by_keys_ = false; ///< the user's last step, so that he wants to see where keys go
     int palette_cursor_ = 0;
     int row_cursor_ = 0;
 };

@@ -1,0 +1,29 @@
+#include "ui/sections/vk_files_to_text_section.h"
+
+#include "ui/parts/item_parts_container_widget.h"
+
+#include <QVBoxLayout>
+
+namespace {
+
+using Type = ItemPartBase::Type;
+
+const std::vector<Type> palette_types{Type::Text, Type::Name,     Type::Path,       Type::Size,
+                                      Type::Date, Type::Property, Type::AutoNumber, Type::Checksum};
+
+}
+
+VKFilesToTextSection::VKFilesToTextSection(CommandLists& lists, ExemplarItemProvider& exemplar, QWidget* parent)
+    : VKSectionWidget(parent),
+      parts_(new ItemPartsContainerWidget(palette_types, VellumarkCommand::Template::Files, lists, exemplar))
+{
+    make_section_layout()->addWidget(parts_);
+    take_content_height();
+    connect(parts_, &ItemPartsContainerWidget::controls_height_changed, this,
+            &ExpandableContainerWidget::animate_to_new_height);
+}
+
+void VKFilesToTextSection::load()
+{
+    parts_->show_command(command());
+}
