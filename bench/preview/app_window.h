@@ -18,6 +18,8 @@ class AppWindow
 public:
     explicit AppWindow(std::string_view command);
 
+    MirvantaApp& app() { return *app_; }
+
     PreviewTextEdit& edit() { return *app_->findChild<PreviewTextEdit*>(); }
 
     /// As another program sends it; returns when its text shows.

@@ -14,3 +14,6 @@ void measure_selections(Report& report);
 
 /// What a run costs more when somebody looks at its progress.
 void measure_progress(Report& report);
+
+/// A row of 300 chips: painted, and typed into one of its text parts.
+void measure_chips(Report& report);

@@ -126,6 +126,9 @@ class Desktop:
         numbers = [re.search(name + r":\s*(-?\d+)", info) for name in ("left X", "left Y", "Width", "Height")]
         return tuple(int(number[1]) for number in numbers)
 
+    def resize(self, window, width, height):
+        self.do("xdotool", "windowmove", "--sync", window, "0", "0", "windowsize", "--sync", window, str(width), str(height))
+
     def screenshot(self, path, window="root"):
         """Writes a picture of a window or of the whole screen, in the format that the path's extension names."""
         self.do("import", "-silent", "-window", window, path)
@@ -134,7 +137,12 @@ class Desktop:
 
     def key(self, *keys):
         """Such as "Return", "ctrl+a", "alt+o"."""
-        self.do("xdotool", "key", "--clearmodifiers", *keys)
+        if keys:
+            self.do("xdotool", "key", "--clearmodifiers", *keys)
+
+    def key_in_drag(self, key):
+        # To clear modifiers would release the mouse's button as well.
+        self.do("xdotool", "key", key)
 
     def type(self, text):
         self.do("xdotool", "type", "--clearmodifiers", "--delay", "5", "--", text)
@@ -142,7 +150,11 @@ class Desktop:
     def click(self, x, y, button=1):
         self.do("xdotool", "mousemove", str(x), str(y), "click", str(button))
 
-    def drag(self, start, end, steps=16):
+    def drag(self, start, end):
+        self.take(start, end)
+        self.let_go()
+
+    def take(self, start, end, steps=8):
         """Small steps, for a drag begins only when the pointer is seen moving with the button held."""
         (left, top), (right, bottom) = start, end
         self.do("xdotool", "mousemove", str(left), str(top), "mousedown", "1")
@@ -150,6 +162,8 @@ class Desktop:
             x, y = left + (right - left) * step // steps, top + (bottom - top) * step // steps
             self.do("xdotool", "mousemove", str(x), str(y))
             time.sleep(0.06)
+
+    def let_go(self):
         self.do("xdotool", "mouseup", "1")
 
     # The clipboard, as other programs see it.

@@ -31,6 +31,8 @@ VellumarkMainWidget::VellumarkMainWidget(AppServices& app, VellumarkController& 
     layout->addWidget(splitter_, 1);
     pane_->setWidgetResizable(true);
     pane_->setAccessibleName(tr("Edit"));
+    // Tab goes straight to what the pane holds, and scrolls it.
+    pane_->setFocusPolicy(Qt::NoFocus);
     pane_->setWidget(make_sections());
     pane_->hide();
     splitter_->addWidget(pane_);

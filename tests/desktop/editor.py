@@ -1,0 +1,55 @@
+"""The editing pane of the application's window, as a screen reader sees it and as mouse and keys work it."""
+
+import accessibility
+import pyatspi
+from desktop import wait_until
+
+
+class PartsEditor:
+    """The chips of one template: the first in the pane is that for files."""
+
+    def __init__(self, program, number=0):
+        self.program = program
+        self.number = number
+
+    def open_pane(self):
+        accessibility.press(accessibility.find(self.program.root, "push button", "View/Edit"))
+        wait_until(lambda: accessibility.find_all(self.program.root, "list", "Parts of the text"), "the chips")
+
+    def _chips(self):
+        row = accessibility.find_all(self.program.root, "list", "Parts of the text")[self.number]
+        return [row.getChildAtIndex(index) for index in range(row.childCount)]
+
+    def row(self):
+        """The names of the chips in the row; "*" behind the selected one."""
+        chips = [chip for chip in self._chips() if chip.getRole() == pyatspi.ROLE_LIST_ITEM]
+        return [chip.name + "*" * chip.getState().contains(pyatspi.STATE_SELECTED) for chip in chips]
+
+    def middle(self, name):
+        """Where the first chip of this name is or is going to be."""
+        return self.program.middle(wait_until(lambda: [c for c in self._chips() if c.name == name], name)[0])
+
+    def add(self, kind):
+        """Drags a chip from the palette to the end of the row."""
+        start = self.middle("Add " + kind)
+        row = [chip for chip in self._chips() if chip.getRole() == pyatspi.ROLE_LIST_ITEM]
+        end = self.program.middle(row[-1]) if row else (start[0], start[1] + 55)
+        self.program.desktop.drag(start, (end[0] + 10, end[1]))
+
+    def move(self, name, behind):
+        self.program.desktop.drag(self.middle(name), self._gap(behind))
+
+    def throw_out(self, name):
+        x, y = self.middle(name)
+        self.program.desktop.drag((x, y), (x, y + 150))
+
+    def _gap(self, name):
+        x, y = self.middle(name)
+        return x + 3, y
+
+    def control(self, role, name):
+        """A control of the selected part. A combo box tells its value as its name, so it is found by its label."""
+        if role != "combo box":
+            return accessibility.find(self.program.root, role, name)
+        relations = accessibility.find(self.program.root, "label", name).getRelationSet()
+        return next(r.getTarget(0) for r in relations if r.getRelationType() == pyatspi.RELATION_LABEL_FOR)
