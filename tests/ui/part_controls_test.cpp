@@ -214,6 +214,9 @@ TEST_F(PartControls, AskForTheirHeightAndForDeletion)
     operate(control("Date Format:"), "AM/PM");
     EXPECT_TRUE(becomes([&] { return resized.size() == 1; }));
     EXPECT_LT(widget->sizeHint().height(), height);
+    control("Date Format:").setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), &control<QPushButton>());
     control<QPushButton>().click();
     EXPECT_EQ(deleted.size(), 1);
 

@@ -14,16 +14,23 @@
 #include <utility>
 
 ItemControlsBaseWidget::ItemControlsBaseWidget(TemplateEdits& edits, QWidget* parent)
-    : QWidget(parent), edits_(edits), rows_(new QGridLayout(this)), form_(new QFormLayout),
-      delete_button_(new QPushButton(tr("Delete")))
+    : QWidget(parent), edits_(edits), rows_(new QGridLayout(this)), delete_button_(new QPushButton(tr("Delete")))
 {
-    form_->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
-    rows_->addLayout(form_, 1, 0);
+    rows_->addLayout(begin_form(), 1, 0);
     rows_->addWidget(delete_button_, 1, 1, Qt::AlignBottom);
     rows_->setColumnStretch(0, 1);
     // Return in a field must not press it.
     delete_button_->setAutoDefault(false);
     connect(delete_button_, &QPushButton::clicked, this, &ItemControlsBaseWidget::delete_requested);
+}
+
+QFormLayout* ItemControlsBaseWidget::begin_form()
+{
+    form_ = new QFormLayout;
+    form_->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    form_->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    form_->setContentsMargins(0, 0, 0, 0);
+    return form_;
 }
 
 void ItemControlsBaseWidget::set_position(int position)
@@ -115,6 +122,8 @@ QComboBox* ItemControlsBaseWidget::new_combo(const QString& label, const QString
 {
     auto* combo = new QComboBox;
     combo->addItems(entries);
+    // The longest entry is cut short in a narrow window, rather than the button beside it.
+    combo->setMinimumWidth(combo->minimumSizeHint().width() / 3);
     leave_wheel_to_page(*combo);
     add_row(label, combo);
     return combo;

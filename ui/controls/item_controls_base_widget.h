@@ -151,10 +151,11 @@ protected:
     /// Puts a control into the current form, with its label as its name.
     void add_row(const QString& label, QWidget* control);
 
-    /// Where the rows that are added next go, at first a form of the widget's own.
+    /// Where the rows that are added next go.
     QFormLayout* form() const { return form_; }
 
-    void set_form(QFormLayout* form) { form_ = form; }
+    /// Has them go into a new form instead, which the caller puts somewhere.
+    QFormLayout* begin_form();
 
 private:
     struct Show {
@@ -200,6 +201,6 @@ private:
     bool changing_ = false;
     int height_ = 0;
     QGridLayout* rows_;
-    QFormLayout* form_;
+    QFormLayout* form_ = nullptr;
     QPushButton* delete_button_;
 };

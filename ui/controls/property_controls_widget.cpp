@@ -61,7 +61,7 @@ QString hint_for(const ExemplarItem* exemplar, const ExemplarProperties& propert
 
 PropertyControlsWidget::PropertyControlsWidget(TemplateEdits& edits, ExemplarItemProvider& exemplar, QWidget* parent)
     : ItemControlsBaseWidget(edits, parent), exemplar_(exemplar), table_(new PropertyTable),
-      hide_empty_(new QCheckBox(tr("Hide Empty Values"))), custom_format_(new QCheckBox),
+      hide_empty_(new QCheckBox(tr("Hide Empty Values"))), custom_format_(new QCheckBox(tr("Customize Format"))),
       pages_(new VariableSizeStackedWidget)
 {
     add_wide(table_);
@@ -80,6 +80,7 @@ void PropertyControlsWidget::add_boxes()
 {
     add_row({}, hide_empty_);
     add_row({}, custom_format_);
+    custom_format_->setEnabled(false);
     connect(custom_format_, &QCheckBox::toggled, this, &Self::set_custom_format);
     connect(hide_empty_, &QCheckBox::toggled, this, [this] {
         fill_table();
@@ -92,6 +93,7 @@ void PropertyControlsWidget::add_pages()
     auto* indented = new QHBoxLayout;
     indented->addSpacing(page_indent);
     indented->addWidget(pages_);
+    pages_->hide();
     form()->addRow(indented);
 
     add_page();
@@ -129,8 +131,7 @@ void PropertyControlsWidget::add_pages()
 void PropertyControlsWidget::add_page()
 {
     auto* page = new QWidget;
-    set_form(new QFormLayout(page));
-    form()->setContentsMargins(0, 0, 0, 0);
+    page->setLayout(begin_form());
     pages_->add_page(page);
 }
 

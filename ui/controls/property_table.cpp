@@ -38,6 +38,7 @@ PropertyTable::PropertyTable(QWidget* parent) : QTableWidget(0, ColumnCount, par
     setStyleSheet(QStringLiteral("QTableWidget::item:selected{ background-color: #ace8f9; color: black; } "
                                  "QTableWidget{ outline: 0; }"));
     horizontalHeader()->setStyleSheet(QStringLiteral("QHeaderView::section{ font-weight: bold; }"));
+    horizontalHeader()->setSectionResizeMode(NameColumn, QHeaderView::ResizeToContents);
     horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setHighlightSections(false);
@@ -67,6 +68,8 @@ void PropertyTable::fill(std::vector<ExemplarProperty> properties)
     for (std::size_t i = 0; i < properties.size(); ++i)
         put_row(static_cast<int>(i), properties[i]);
     setSelectionMode(SingleSelection);
+    // The scroll bar doesn't know the new rows before that.
+    executeDelayedItemsLayout();
     if (scrolled && top.isValid())
         scrollTo(top, PositionAtTop);
     show_hint();

@@ -41,6 +41,7 @@ void ExemplarItem::Reading::read(const std::u16string& path)
     platform::FileProperties file(path);
     const std::vector<std::u16string> names = file.names();
     std::vector<ExemplarProperty> list;
+    list.reserve(names.size());
     for (const std::u16string& name : names)
         list.push_back({to_qstring(name), to_qstring(platform::property_display_name(name)), {}});
     bool wanted = tell([&](ExemplarProperties& now) { now.list = std::move(list); });
