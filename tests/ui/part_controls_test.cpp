@@ -215,8 +215,8 @@ TEST_F(PartControls, AskForTheirHeightAndForDeletion)
     EXPECT_TRUE(becomes([&] { return resized.size() == 1; }));
     EXPECT_LT(widget->sizeHint().height(), height);
     control("Date Format:").setFocus();
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    EXPECT_EQ(QApplication::focusWidget(), &control<QPushButton>());
+    QTest::keyClick(widget->focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(widget->focusWidget(), &control<QPushButton>());
     control<QPushButton>().click();
     EXPECT_EQ(deleted.size(), 1);
 

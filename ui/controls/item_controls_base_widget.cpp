@@ -14,14 +14,10 @@
 #include <utility>
 
 ItemControlsBaseWidget::ItemControlsBaseWidget(TemplateEdits& edits, QWidget* parent)
-    : QWidget(parent), edits_(edits), rows_(new QGridLayout(this)), delete_button_(new QPushButton(tr("Delete")))
+    : QWidget(parent), edits_(edits), rows_(new QGridLayout(this))
 {
     rows_->addLayout(begin_form(), 1, 0);
-    rows_->addWidget(delete_button_, 1, 1, Qt::AlignBottom);
     rows_->setColumnStretch(0, 1);
-    // Return in a field must not press it.
-    delete_button_->setAutoDefault(false);
-    connect(delete_button_, &QPushButton::clicked, this, &ItemControlsBaseWidget::delete_requested);
 }
 
 QFormLayout* ItemControlsBaseWidget::begin_form()
@@ -35,8 +31,19 @@ QFormLayout* ItemControlsBaseWidget::begin_form()
 
 void ItemControlsBaseWidget::set_position(int position)
 {
+    if (!delete_button_)
+        add_delete_button();
     position_ = position;
     refresh();
+}
+
+void ItemControlsBaseWidget::add_delete_button()
+{
+    delete_button_ = new QPushButton(tr("Delete"));
+    // Return in a field must not press it.
+    delete_button_->setAutoDefault(false);
+    connect(delete_button_, &QPushButton::clicked, this, &ItemControlsBaseWidget::delete_requested);
+    rows_->addWidget(delete_button_, 1, 1, Qt::AlignBottom);
 }
 
 void ItemControlsBaseWidget::refresh()
@@ -99,7 +106,6 @@ bool ItemControlsBaseWidget::eventFilter(QObject* watched, QEvent* event)
 void ItemControlsBaseWidget::add_wide(QWidget* control)
 {
     rows_->addWidget(control, 0, 0, 1, 2);
-    append_to_tabs(control);
 }
 
 void ItemControlsBaseWidget::add_row(const QString& label, QWidget* control)
@@ -110,12 +116,6 @@ void ItemControlsBaseWidget::add_row(const QString& label, QWidget* control)
         form_->addRow(label, control);
         control->setAccessibleName(label);
     }
-    append_to_tabs(control);
-}
-
-void ItemControlsBaseWidget::append_to_tabs(QWidget* control)
-{
-    setTabOrder(control, delete_button_);
 }
 
 QComboBox* ItemControlsBaseWidget::new_combo(const QString& label, const QStringList& entries)
@@ -134,7 +134,6 @@ QCheckBox* ItemControlsBaseWidget::new_check(const QString& text)
     auto* box = new QCheckBox(text);
     // Below the fields of the form, not below their labels.
     form_->addRow(QString(), box);
-    append_to_tabs(box);
     return box;
 }
 

@@ -187,11 +187,11 @@ private:
     bool push(const QWidget* cause, const std::shared_ptr<const ItemPartBase>& changed, const QString& text,
               MergeId merge_id);
     void show_part(const QWidget* but);
+    void add_delete_button();
 
     QComboBox* new_combo(const QString& label, const QStringList& entries);
     QCheckBox* new_check(const QString& text);
     void add_line_row(const QString& label, QLineEdit* edit);
-    void append_to_tabs(QWidget* control);
     static void show_line(QLineEdit& edit, const QString& text);
     static void show_text(VariableSizeTextEdit& edit, const std::u16string& text);
 
@@ -202,5 +202,5 @@ private:
     int height_ = 0;
     QGridLayout* rows_;
     QFormLayout* form_ = nullptr;
-    QPushButton* delete_button_;
+    QPushButton* delete_button_ = nullptr; ///< made after the controls, and so the last one that Tab comes to
 };
