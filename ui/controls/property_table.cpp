@@ -7,6 +7,7 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QSet>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -22,6 +23,25 @@ bool stands_before(const ExemplarProperty& one, const ExemplarProperty& other)
     return std::tie(one.display_name, one.canonical_name) < std::tie(other.display_name, other.canonical_name);
 }
 
+/// Writes each text in its own direction, at the side where the layout's lines begin: "3.14 KB" stays that among
+/// right-to-left texts.
+class OwnDirectionDelegate final : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const auto own = option->text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
+        if (option->direction == own)
+            return;
+        option->direction = own;
+        option->displayAlignment = Qt::AlignVCenter | Qt::AlignRight; // mirrored for a text from right to left
+    }
+};
+
 }
 
 PropertyTable::PropertyTable(QWidget* parent) : QTableWidget(0, ColumnCount, parent), hint_(new ElidedLabel)
@@ -33,6 +53,7 @@ PropertyTable::PropertyTable(QWidget* parent) : QTableWidget(0, ColumnCount, par
     setEditTriggers(NoEditTriggers);
     setTabKeyNavigation(false);
     setWordWrap(false);
+    setItemDelegate(new OwnDirectionDelegate(this));
     setVerticalScrollMode(ScrollPerItem);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setStyleSheet(QStringLiteral("QTableWidget::item:selected{ background-color: #ace8f9; color: black; } "
