@@ -11,7 +11,30 @@
 
 namespace {
 
-constexpr int text_flags = Qt::AlignLeft | Qt::TextSingleLine | Qt::TextDontClip;
+/// One line, ready to be painted.
+QStaticText static_text(const QString& text, const QFont& font)
+{
+    QString line = text;
+    QStaticText ready(line.replace(u'\n', u' '));
+    ready.setTextFormat(Qt::PlainText);
+    ready.prepare({}, font);
+    return ready;
+}
+
+/// A frame of straight edges, which are painted faster than an outline.
+void fill_frame(QPainter& painter, const QRectF& rect, double width, const QColor& colour)
+{
+    painter.fillRect(QRectF(rect.left(), rect.top(), rect.width(), width), colour);
+    painter.fillRect(QRectF(rect.left(), rect.bottom() - width, rect.width(), width), colour);
+    painter.fillRect(QRectF(rect.left(), rect.top(), width, rect.height()), colour);
+    painter.fillRect(QRectF(rect.right() - width, rect.top(), width, rect.height()), colour);
+}
+
+/// The left edge of a text that begins where reading begins.
+double text_left(const QPainter& painter, const QRectF& room, const QStaticText& text)
+{
+    return painter.layoutDirection() == Qt::RightToLeft ? room.right() - text.size().width() : room.left();
+}
 
 QColor hovered_variant(const QColor& colour)
 {
@@ -42,7 +65,7 @@ double line_width(const QPainter& painter, double width)
     return scale > 0 ? std::max(1.0, std::floor(width * scale)) / scale : width;
 }
 
-void paint_frame(QPainter& painter, const QRectF& rect, const QPen& pen)
+void draw_frame(QPainter& painter, const QRectF& rect, const QPen& pen)
 {
     const double half = line_width(painter, 1) / 2;
     painter.setPen(pen);
@@ -69,10 +92,12 @@ void ItemPartBaseDraw::measure(const ItemPartDrawFonts& fonts)
 {
     constexpr int around = 15;
     int line = 0;
-    text_widths_.clear();
+    title_text_ = static_text(title_, fonts.title());
+    measured_.clear();
     for (const OptionSegment& option : options_) {
-        text_widths_.push_back(fonts.width(option));
-        line += advance_of(option.kind, text_widths_.back());
+        const int advance = advance_of(option.kind, fonts.width(option));
+        measured_.push_back({static_text(option.text, fonts.of(option.kind)), advance});
+        line += advance;
     }
     width_ = std::max(fonts.title_width(title_), line) + around;
 }
@@ -101,17 +126,30 @@ void ItemPartBaseDraw::paint(QPainter& painter, const QRectF& rect, const ItemPa
                      shown(head_colour()));
     if (place.height() > head)
         painter.fillRect(place.adjusted(0, head, 0, 0), shown(colours::chip_body()));
-    const QPen frame = selected && !greyed_ ? QPen(Qt::blue, line_width(painter, 2))
-                                            : QPen(shown(colours::chip_border()), line_width(painter, 1),
-                                                   palette_ ? Qt::DashLine : Qt::SolidLine);
-    paint_frame(painter, place, frame);
+    paint_frame(painter, place, selected);
     painter.setPen(shown(colours::chip_text()));
-    painter.setFont(fonts.title());
-    // Both edges, for in right-to-left layouts the text begins at the right one.
-    const int inset = ChipMetrics::inset;
-    painter.drawText(place.adjusted(inset, inset, -inset, 0), text_flags | Qt::AlignTop, title_);
+    paint_title(painter, place, fonts);
     if (!palette_)
         paint_options(painter, place, fonts);
+}
+
+void ItemPartBaseDraw::paint_frame(QPainter& painter, const QRectF& rect, bool selected) const
+{
+    const QColor border = shown(colours::chip_border());
+    if (selected && !greyed_)
+        draw_frame(painter, rect, QPen(Qt::blue, line_width(painter, 2)));
+    else if (palette_)
+        draw_frame(painter, rect, QPen(border, line_width(painter, 1), Qt::DashLine));
+    else
+        fill_frame(painter, rect, line_width(painter, 1), border);
+}
+
+void ItemPartBaseDraw::paint_title(QPainter& painter, const QRectF& rect, const ItemPartDrawFonts& fonts) const
+{
+    constexpr int inset = ChipMetrics::inset;
+    const QRectF room = rect.adjusted(inset, inset, -inset, 0);
+    painter.setFont(fonts.title());
+    painter.drawStaticText(QPointF(text_left(painter, room, title_text_), room.top()), title_text_);
 }
 
 void ItemPartBaseDraw::paint_options(QPainter& painter, const QRectF& rect, const ItemPartDrawFonts& fonts) const
@@ -120,9 +158,9 @@ void ItemPartBaseDraw::paint_options(QPainter& painter, const QRectF& rect, cons
     QRectF rest = rect.adjusted(ChipMetrics::inset, metrics.head + 2, -ChipMetrics::inset, 0);
     rest.setHeight(metrics.line);
     for (qsizetype i = 0; i < options_.size(); ++i) {
-        const auto& [text, kind] = options_[i];
-        const int advance = advance_of(kind, text_widths_[static_cast<std::size_t>(i)]);
-        const bool in_box = is_boxed(kind) && !text.isEmpty();
+        const SegmentKind kind = options_[i].kind;
+        const auto& [text, advance] = measured_[static_cast<std::size_t>(i)];
+        const bool in_box = is_boxed(kind) && !options_[i].text.isEmpty();
         QRectF place = rest;
         if (in_box)
             place.setWidth(advance);
@@ -132,7 +170,8 @@ void ItemPartBaseDraw::paint_options(QPainter& painter, const QRectF& rect, cons
             painter.fillRect(place,
                              shown(kind == SegmentKind::Literal ? colours::literal_box() : colours::value_box()));
         painter.setFont(fonts.of(kind));
-        painter.drawText(place, text_flags | Qt::AlignVCenter, text);
+        const double top = place.top() + std::floor((place.height() - text.size().height()) / 2);
+        painter.drawStaticText(QPointF(text_left(painter, place, text), top), text);
         rest.setLeft(rest.left() + advance);
     }
 }

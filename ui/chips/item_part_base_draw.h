@@ -7,6 +7,7 @@
 #include <QColor>
 #include <QObject>
 #include <QPointer>
+#include <QStaticText>
 
 class ItemPartDrawFonts;
 class QPainter;
@@ -77,6 +78,8 @@ protected:
 private:
     void measure(const ItemPartDrawFonts& fonts);
     QColor head_colour() const;
+    void paint_frame(QPainter& painter, const QRectF& rect, bool selected) const;
+    void paint_title(QPainter& painter, const QRectF& rect, const ItemPartDrawFonts& fonts) const;
     void paint_options(QPainter& painter, const QRectF& rect, const ItemPartDrawFonts& fonts) const;
     /// The colour, or the grey in its place while the chip is greyed.
     QColor shown(const QColor& colour) const;
@@ -87,8 +90,15 @@ private:
     bool greyed_ = false;
     QPointer<QObject> host_;
     ChipMotion motion_;
+
+    struct MeasuredOption {
+        QStaticText text; ///< laid out once, for chips are painted far more often than they change
+        int advance;
+    };
+
     QString title_; ///< as it is painted
     OptionSegments options_;
-    std::vector<int> text_widths_; ///< of the options
+    QStaticText title_text_;
+    std::vector<MeasuredOption> measured_; ///< the options
     int width_ = 0;
 };

@@ -1,14 +1,15 @@
 #include "ui/preview/preview_text_edit.h"
 
+#include "ui/preview/preview_layout.h"
 #include "ui/preview/text_mime_data.h"
 
-#include <QAbstractTextDocumentLayout>
 #include <QElapsedTimer>
 #include <QFontDatabase>
 #include <QPainter>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QTextBlock>
+#include <QThreadPool>
 
 #include <algorithm>
 
@@ -19,6 +20,7 @@ constexpr double tab_stop_distance = 30.0;
 constexpr int least_screenful = 100;
 constexpr qsizetype step_pieces = 200, step_units = 16'384;
 constexpr qint64 slice_ms = 2;
+constexpr int most_dropped_at_once = 100'000;
 constexpr int most_layouts_ahead = 300'000;
 /// The first screenful is painted and what the user does is heard before the rest comes.
 constexpr int pause_before_rest_ms = 10;
@@ -32,16 +34,15 @@ PreviewTextEdit::PreviewTextEdit(QWidget* parent) : QPlainTextEdit(parent)
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     setReadOnly(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    setUndoRedoEnabled(false);
     setLineWrapMode(NoWrap);
-    setTabStopDistance(tab_stop_distance);
+    take_empty_document();
     connect(&fill_timer_, &QTimer::timeout, this, &PreviewTextEdit::append_slice);
 }
 
 void PreviewTextEdit::show_text(const QString& text)
 {
     fill_timer_.stop();
-    clear();
+    drop_text();
     pieces_ = TextPieces(text);
     append_pieces(std::max(visible_lines(), least_screenful), step_units);
     // The cursor went along with what was put in behind it.
@@ -50,6 +51,30 @@ void PreviewTextEdit::show_text(const QString& text)
     verticalScrollBar()->setValue(0);
     if (!pieces_.is_complete())
         fill_timer_.start(pause_before_rest_ms);
+}
+
+/// To let go of a long document takes longer than a key stroke may: that is another thread's work.
+void PreviewTextEdit::drop_text()
+{
+    if (document()->characterCount() < most_dropped_at_once) {
+        clear();
+        return;
+    }
+    QTextDocument* old = document();
+    take_empty_document();
+    old->setParent(nullptr);
+    old->moveToThread(nullptr);
+    QThreadPool::globalInstance()->start([old] { delete old; });
+}
+
+void PreviewTextEdit::take_empty_document()
+{
+    auto* empty = new QTextDocument(this);
+    empty->setDocumentLayout(new PreviewLayout(empty));
+    empty->setUndoRedoEnabled(false);
+    empty->setDefaultFont(font());
+    setDocument(empty);
+    setTabStopDistance(tab_stop_distance); // the document's
 }
 
 void PreviewTextEdit::append_pieces(qsizetype pieces, qsizetype units)
@@ -70,18 +95,32 @@ void PreviewTextEdit::append_slice()
     QElapsedTimer slice;
     slice.start();
     const bool joins_view = blockCount() <= verticalScrollBar()->value() + visible_lines();
-    auto* layout = document()->documentLayout();
+    auto& layout = static_cast<PreviewLayout&>(*document()->documentLayout());
     {
         // The lines that can be seen already need not be painted again.
-        const QSignalBlocker quiet(layout);
+        const QSignalBlocker quiet(&layout);
         while (!pieces_.is_complete() && slice.elapsed() < slice_ms)
             append_pieces(step_pieces, step_units);
     }
-    emit layout->documentSizeChanged(layout->documentSize());
+    const bool is_done = pieces_.is_complete() && lay_out_last_lines(slice);
+    layout.tell_size(!is_done);
     if (joins_view)
         viewport()->update();
-    if (pieces_.is_complete())
+    if (is_done)
         fill_timer_.stop();
+}
+
+/// How far the scroll bars go hangs on the last lines. False when their turn is in another slice.
+bool PreviewTextEdit::lay_out_last_lines(const QElapsedTimer& slice) const
+{
+    const auto* layout = document()->documentLayout();
+    QTextBlock block = document()->lastBlock();
+    for (int line = visible_lines(); line > 0 && block.isValid(); --line, block = block.previous()) {
+        if (slice.elapsed() >= slice_ms)
+            return false;
+        layout->blockBoundingRect(block);
+    }
+    return true;
 }
 
 void PreviewTextEdit::paintEvent(QPaintEvent* event)

@@ -2,6 +2,7 @@
 
 #include "ui/preview/text_pieces.h"
 
+#include <QElapsedTimer>
 #include <QPlainTextEdit>
 #include <QTimer>
 
@@ -29,8 +30,11 @@ protected:
     QMimeData* createMimeDataFromSelection() const override;
 
 private:
+    void take_empty_document();
+    void drop_text();
     void append_pieces(qsizetype pieces, qsizetype units);
     void append_slice();
+    bool lay_out_last_lines(const QElapsedTimer& slice) const;
     void mark_folds();
     int visible_lines() const;
 
