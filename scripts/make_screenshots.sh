@@ -18,6 +18,7 @@ main() {
     mkdir -p -- "$to"
     compact window-light
     compact window-dark
+    compact editor-light
 }
 
 main

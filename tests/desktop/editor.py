@@ -25,9 +25,13 @@ class PartsEditor:
         chips = [chip for chip in self._chips() if chip.getRole() == pyatspi.ROLE_LIST_ITEM]
         return [chip.name + "*" * chip.getState().contains(pyatspi.STATE_SELECTED) for chip in chips]
 
+    def find(self, name):
+        """The first chip of this name."""
+        return wait_until(lambda: [chip for chip in self._chips() if chip.name == name], name)[0]
+
     def middle(self, name):
-        """Where the first chip of this name is or is going to be."""
-        return self.program.middle(wait_until(lambda: [c for c in self._chips() if c.name == name], name)[0])
+        """Where it is or is going to be."""
+        return self.program.middle(self.find(name))
 
     def add(self, kind):
         """Drags a chip from the palette to the end of the row."""

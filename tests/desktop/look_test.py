@@ -2,11 +2,13 @@
 
 import os
 import shutil
+import time
 import unittest
 
 import accessibility
 from big_file import BigFile
 from desktop import Desktop, wait_until
+from editor import PartsEditor
 from program import TITLE, UNSAVED, ProgramTest, shipped_commands
 
 PICTURES = os.environ["PICTURES"]
@@ -69,7 +71,22 @@ class Look(ProgramTest):
         self.desktop.key("shift+F10")
         self.program.choose_from_open_menu("Rename")
         self.take_dialog("rename-" + scheme, "^Rename Command$")
+        self.take_editor(scheme)
         return f"{PICTURES}/window-{scheme}.png"
+
+    def take_editor(self, scheme):
+        """A picture of the parts of a command, the date's selected."""
+        if scheme != "double":  # it would not fit
+            self.desktop.resize(self.program.window, 1300, 860)
+        names = self.program.rows()
+        self.program.click(self.program.cell(names.index("Copy Names, Sizes and Dates")))
+        editor = PartsEditor(self.program)
+        editor.open_pane()
+        self.program.click(editor.find("Modified Date, YYYY-MM-DD HH:MM:SS"))
+        wait_until(lambda: any(name.endswith("*") for name in editor.row()), "the chip's selection")
+        editor.control("combo box", "Date Format:")
+        time.sleep(0.5)  # until the sections have their heights
+        self.take("editor-" + scheme)
 
     def test_colours(self):
         shown = {"light": "#0080ff", "dark": "#6ba8ff"}
