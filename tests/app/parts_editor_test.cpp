@@ -13,6 +13,7 @@
 #include <QAccessible>
 #include <QMenu>
 #include <QTest>
+#include <QTextEdit>
 
 namespace {
 
@@ -38,6 +39,13 @@ protected:
         std::string text;
         for (const ChipPointer& chip : row->board().row())
             text += "[" + chip->spoken_name().toStdString() + "]" + (chip == row->board().selected_chip() ? "*" : "");
+        return text;
+    }
+
+    std::string unselected() const
+    {
+        std::string text = shown();
+        std::erase(text, '*');
         return text;
     }
 
@@ -93,29 +101,30 @@ TEST_F(PartsEditor, KeysDoAllThatTheMouseDoes)
         {Qt::Key_Delete, {}, "[Name, Name]", "Delete Item Part"},
         {Qt::Key_Right, {}, "[Name, Name]*", nullptr},
         {Qt::Key_Backspace, {}, "", "Delete Item Part"},
-        {Qt::Key_Delete, {}, "", nullptr},
+        {Qt::Key_End, {}, "", nullptr},
+        {Qt::Key_Space, {}, "[Checksum, MD5]*", "Add Item Part"}, // the palette has the keys of an empty row
+        {Qt::Key_Delete, {}, "[Checksum, MD5]*", nullptr},
     };
     QUndoStack& stack = app->steps().stack();
-    for (const Row& row_of_table : rows) {
+    std::vector<std::string> states{unselected()};
+    for (const Row& each : rows) {
         const int steps = stack.index();
-        const std::string before = shown();
-        QTest::keyClick(row, row_of_table.key, row_of_table.modifiers);
-        EXPECT_EQ(shown(), row_of_table.expected) << row_of_table.key;
-        EXPECT_EQ(stack.index(), steps + (row_of_table.step ? 1 : 0)) << row_of_table.key;
-        if (!row_of_table.step)
+        QTest::keyClick(row, each.key, each.modifiers);
+        EXPECT_EQ(shown(), each.expected) << each.key;
+        EXPECT_EQ(stack.index(), steps + (each.step ? 1 : 0)) << each.key;
+        if (!each.step)
             continue;
-        EXPECT_EQ(stack.undoText().toStdString(), row_of_table.step);
-        stack.undo();
-        std::string undone = shown();
-        std::erase(undone, '*');
-        std::string plain = before;
-        std::erase(plain, '*');
-        EXPECT_EQ(undone, plain) << row_of_table.key;
-        stack.redo();
-        if (row->selected_index() < 0 && std::string_view(row_of_table.expected).ends_with('*'))
-            row->activate(*row->board().row().back());
+        EXPECT_EQ(stack.undoText().toStdString(), each.step);
+        states.push_back(unselected());
     }
-    EXPECT_TRUE(command().file_parts()->empty());
+    for (std::size_t state = states.size() - 1; state-- > 0;) {
+        stack.undo();
+        EXPECT_EQ(unselected(), states[state]);
+    }
+    for (std::size_t state = 1; state < states.size(); ++state) {
+        stack.redo();
+        EXPECT_EQ(unselected(), states[state]);
+    }
 }
 
 TEST_F(PartsEditor, ArrowsAndPlacesAreMirroredFromRightToLeft)
@@ -132,6 +141,36 @@ TEST_F(PartsEditor, ArrowsAndPlacesAreMirroredFromRightToLeft)
     EXPECT_EQ(shown(), "[Text][Text]*");
 }
 
+TEST_F(PartsEditor, ClicksAddAndSelectWhateverMoves)
+{
+    const ChipPointer name = row->board().palette()[1];
+    const QPoint place = middle(name);
+    for (int click = 0; click < 3; ++click)
+        QTest::mouseClick(row, Qt::LeftButton, {}, place);
+    EXPECT_EQ(shown(), "[Name, Name][Name, Name][Name, Name]*");
+    QTest::keyClick(row, Qt::Key_Left, Qt::ControlModifier | Qt::KeypadModifier);
+    EXPECT_EQ(shown(), "[Name, Name][Name, Name]*[Name, Name]");
+    settle();
+    QTest::mouseClick(row, Qt::LeftButton, {}, QPoint(row->width() - 1, middle(row->board().row()[0]).y()));
+    QTest::keyClick(row, Qt::Key_Delete);
+    QTest::keyClick(row, Qt::Key_Backspace, Qt::AltModifier);
+    EXPECT_EQ(shown(), "[Name, Name][Name, Name][Name, Name]") << "nothing shows which one would go";
+}
+
+TEST_F(PartsEditor, TabFollowsThePage)
+{
+    QTest::keyClick(row, Qt::Key_Space);
+    QTest::keyClick(row, Qt::Key_Tab);
+    QTest::keyClick(row, Qt::Key_Tab);
+    ASSERT_EQ(app->focusWidget(), container->shown_controls()->findChild<QTextEdit*>());
+    QTest::keyClick(app->focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
+    auto* remove = qobject_cast<QPushButton*>(app->focusWidget());
+    ASSERT_TRUE(remove && container->isAncestorOf(remove));
+    remove->click();
+    EXPECT_EQ(shown(), "");
+    EXPECT_EQ(app->focusWidget(), row);
+}
+
 TEST_F(PartsEditor, ADragSurvivesWhateverHappensMeanwhile)
 {
     for (int i = 0; i < 2; ++i)
@@ -143,15 +182,23 @@ TEST_F(PartsEditor, ADragSurvivesWhateverHappensMeanwhile)
 
     take(first, outside);
     EXPECT_TRUE(first->greyed());
-    QTest::keyClick(row, Qt::Key_Escape);
-    EXPECT_TRUE(app->isVisible());
+    for (const bool is_repeated : {false, true}) {
+        QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, {}, {}, is_repeated);
+        QCoreApplication::sendEvent(row, &escape);
+        EXPECT_TRUE(app->isVisible());
+    }
     QTest::mouseRelease(row, Qt::LeftButton, {}, outside);
     EXPECT_EQ(shown(), before);
 
     take(first, outside);
+    const QRectF in_hand = first->rect();
     app->on_context_menu_selected(-1, {path_of("a.txt")});
     EXPECT_TRUE(becomes([&] { return app->selected_items()->items().size() == 1; }));
-    EXPECT_TRUE(first->greyed()) << "a selection changes no part";
+    QTest::keyClick(row, Qt::Key_Tab);
+    EXPECT_TRUE(row->hasFocus());
+    QTest::qWait(ChipMotion::duration / 2);
+    EXPECT_EQ(first->rect(), in_hand) << "a selection changes no part";
+    EXPECT_TRUE(first->greyed());
     app->steps().stack().undo();
     QTest::mouseRelease(row, Qt::LeftButton, {}, outside);
     EXPECT_EQ(shown(), "[Text]") << "undo ends the drag";
@@ -172,7 +219,7 @@ TEST_F(PartsEditor, UndoShowsTheCommandThatItChanges)
     const auto text = std::make_shared<ItemPartText>();
     text->set_text(u"<b>x</b> \U0001F600");
     edits.change_part(0, text, "Change Text", MergeId::Text);
-    EXPECT_EQ(shown(), "[Text, <b>x</b>\u00b7\U0001F600]*");
+    EXPECT_EQ(shown(), "[Text, <b>x</b> \U0001F600]*");
     edits.change_part(7, text, "Change Text", MergeId::Text);
     app->menu_list().select_without_undo(0);
     app->current_command_changed();

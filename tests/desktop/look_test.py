@@ -76,8 +76,8 @@ class Look(ProgramTest):
 
     def take_editor(self, scheme):
         """A picture of the parts of a command, the date's selected."""
-        if scheme != "double":  # it would not fit
-            self.desktop.resize(self.program.window, 1300, 860)
+        scale = self.program.scale
+        self.desktop.resize(self.program.window, 1290 * scale, 860 * scale)
         names = self.program.rows()
         self.program.click(self.program.cell(names.index("Copy Names, Sizes and Dates")))
         editor = PartsEditor(self.program)

@@ -94,7 +94,8 @@ ChipPointer ChipBoard::chip_at(QPointF point) const
 {
     for (const Chips* chips : {&palette_, &row_})
         for (const ChipPointer& chip : *chips)
-            if (chip->rect().contains(point))
+            // A palette chip that grows back into its place can be clicked again already.
+            if ((chip->is_palette() ? chip->motion().goal() : chip->rect()).contains(point))
                 return chip;
     return nullptr;
 }
@@ -220,10 +221,12 @@ void ChipBoard::remove(int index)
 void ChipBoard::relayout()
 {
     for (const ChipPointer& chip : row_)
-        chip->refresh(fonts_);
+        if (chip->refresh(fonts_))
+            emit chip_renamed(*chip);
     const std::vector<QRectF> places = row_places();
     for (std::size_t i = 0; i < row_.size(); ++i)
-        animate(row_[i], places[i]);
+        if (row_[i].get() != held_)
+            animate(row_[i], places[i]);
     update_size_hint();
     repaint_all();
 }

@@ -68,6 +68,9 @@ public:
     void reorder(int index, int target);
     void remove(int index);
 
+    /// Leaves a chip where it is while the user has it in his hand; null for none.
+    void hold(const ItemPartBaseDraw* chip) { held_ = chip; }
+
     /// Moves every chip to its place in the row, each as wide as its texts now ask for.
     void relayout();
     /// Moves a chip back to where it belongs.
@@ -85,6 +88,8 @@ signals:
     /// The row has been edited; `text` names the step. The template isn't changed yet.
     void edited(const QString& text);
     void selection_changed();
+    /// It tells something else of its part now.
+    void chip_renamed(ItemPartBaseDraw& chip);
 
 private:
     ChipPointer hosted(ChipPointer chip) const;
@@ -105,4 +110,5 @@ private:
     Chips animating_;
     QSize size_hint_;
     int selected_ = -1;
+    const ItemPartBaseDraw* held_ = nullptr; ///< to compare with alone
 };

@@ -34,13 +34,15 @@ void ChipDrag::leave()
 
 void ChipDrag::press(QPointF point)
 {
+    hover(point);
     pressed_ = true;
+    carried_ = false;
     press_point_ = point;
-    const ChipPointer chip = board_.chip_at(point);
-    active_ = chip;
+    const ChipPointer chip = active();
+    board_.hold(chip.get());
     if (!chip)
         return;
-    origin_ = chip->rect().topLeft();
+    origin_ = (chip->is_palette() ? chip->motion().goal() : chip->rect()).topLeft();
     start_index_ = board_.row_index_of(*chip);
     target_ = {start_index_, -1};
     in_band_ = true;
@@ -63,7 +65,9 @@ void ChipDrag::carry(ItemPartBaseDraw& chip, QPointF point)
     constexpr double slack = 24;
     const QPointF way = point - press_point_;
     repaint(chip);
-    chip.motion().move_to(QPointF::dotProduct(way, way) > slack ? origin_ + way : origin_);
+    const bool is_away = QPointF::dotProduct(way, way) > slack;
+    carried_ |= is_away;
+    chip.motion().move_to(is_away ? origin_ + way : origin_);
     in_band_ = board_.metrics().in_band(static_cast<int>(point.y()));
     chip.set_greyed(!chip.is_palette() && !in_band_);
     repaint(chip);
@@ -80,16 +84,19 @@ void ChipDrag::set_target(const DropTarget& target)
         if (target_.marker_x >= 0)
             emit board_.repaint_needed(board_.metrics().marker(target_.marker_x));
     };
-    if (target.marker_x != target_.marker_x)
+    const bool is_other = target.marker_x != target_.marker_x;
+    if (is_other)
         repaint_marker();
     target_ = target;
-    repaint_marker();
+    if (is_other)
+        repaint_marker();
 }
 
 void ChipDrag::end_press()
 {
     pressed_ = false;
     in_band_ = false;
+    board_.hold(nullptr);
     set_target({});
 }
 
@@ -131,8 +138,7 @@ void ChipDrag::let_go_in_row(const ChipPointer& chip, int target)
 
 void ChipDrag::let_go_from_palette(const ChipPointer& chip, int target)
 {
-    const bool was_clicked = chip->rect().topLeft() == origin_;
-    if (target < 0 && !was_clicked) {
+    if (target < 0 && carried_) {
         board_.send_home(*chip);
         board_.select(-1);
         return;

@@ -50,4 +50,5 @@ private:
     std::vector<QRectF> press_rects_; ///< of the row
     DropTarget target_;
     bool in_band_ = false;
+    bool carried_ = false; ///< farther than a hand shakes
 };

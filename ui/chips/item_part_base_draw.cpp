@@ -2,6 +2,7 @@
 
 #include "ui/chips/item_part_draw_fonts.h"
 #include "ui/colours.h"
+#include "ui/widgets/visible_whitespace.h"
 
 #include <QPainter>
 
@@ -19,6 +20,12 @@ QStaticText static_text(const QString& text, const QFont& font)
     ready.setTextFormat(Qt::PlainText);
     ready.prepare({}, font);
     return ready;
+}
+
+/// What is read aloud of a text whose blanks, tabs and line ends are shown as marks.
+QString without_marks(QString text)
+{
+    return text.replace(QChar(0xb7), u' ').replace(QChar(0x2192), u' ').replace(line_feed_mark, u' ').simplified();
 }
 
 /// A frame of straight edges, which are painted faster than an outline.
@@ -77,15 +84,16 @@ void draw_frame(QPainter& painter, const QRectF& rect, const QPen& pen)
 
 }
 
-void ItemPartBaseDraw::refresh(const ItemPartDrawFonts& fonts)
+bool ItemPartBaseDraw::refresh(const ItemPartDrawFonts& fonts)
 {
     QString title = palette_ ? tr("+ %1", "a type of part that can be added").arg(this->title()) : this->title();
     OptionSegments options = palette_ ? OptionSegments() : option_segments();
     if (title == title_ && options == options_)
-        return;
+        return false;
     title_ = std::move(title);
     options_ = std::move(options);
     measure(fonts);
+    return true;
 }
 
 void ItemPartBaseDraw::measure(const ItemPartDrawFonts& fonts)
@@ -95,7 +103,7 @@ void ItemPartBaseDraw::measure(const ItemPartDrawFonts& fonts)
     title_text_ = static_text(title_, fonts.title());
     measured_.clear();
     for (const OptionSegment& option : options_) {
-        const int advance = advance_of(option.kind, fonts.width(option));
+        const int advance = advance_of(option, fonts.width(option));
         measured_.push_back({static_text(option.text, fonts.of(option.kind)), advance});
         line += advance;
     }
@@ -110,11 +118,15 @@ void ItemPartBaseDraw::remeasure(const ItemPartDrawFonts& fonts)
 
 QString ItemPartBaseDraw::spoken_name() const
 {
-    QStringList words{title()};
-    for (const OptionSegment& option : options_)
-        if (!option.text.isEmpty())
-            words += option.text;
-    return words.join(tr(", ", "between a part's title and its options, spoken"));
+    QString spoken = title();
+    QString before = tr(", ", "between a part's title and its options, spoken");
+    for (const OptionSegment& option : options_) {
+        if (option.text.isEmpty())
+            continue;
+        spoken += before + (option.kind == SegmentKind::Literal ? without_marks(option.text) : option.text);
+        before = option.kind == SegmentKind::Label ? QStringLiteral(" ") : tr(", ");
+    }
+    return spoken;
 }
 
 void ItemPartBaseDraw::paint(QPainter& painter, const QRectF& rect, const ItemPartDrawFonts& fonts,
@@ -160,7 +172,7 @@ void ItemPartBaseDraw::paint_options(QPainter& painter, const QRectF& rect, cons
     for (qsizetype i = 0; i < options_.size(); ++i) {
         const SegmentKind kind = options_[i].kind;
         const auto& [text, advance] = measured_[static_cast<std::size_t>(i)];
-        const bool in_box = is_boxed(kind) && !options_[i].text.isEmpty();
+        const bool in_box = is_boxed(options_[i]);
         QRectF place = rest;
         if (in_box)
             place.setWidth(advance);

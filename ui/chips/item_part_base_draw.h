@@ -37,8 +37,8 @@ public:
 
     ItemPartBase::Type type() const { return static_cast<ItemPartBase::Type>(part_type()); }
 
-    /// Takes title and options from the part as it is now. They are measured only when they are others than before.
-    void refresh(const ItemPartDrawFonts& fonts);
+    /// Takes title and options from the part as it is now; false when they are the same as before.
+    bool refresh(const ItemPartDrawFonts& fonts);
 
     /// Measures all texts anew, in other fonts.
     void remeasure(const ItemPartDrawFonts& fonts);

@@ -22,17 +22,15 @@ struct OptionSegment {
 
 using OptionSegments = QList<OptionSegment>;
 
-/// Whether the piece stands in a box: only texts do.
-constexpr bool is_boxed(SegmentKind kind)
+/// Whether the piece stands in a box.
+inline bool is_boxed(const OptionSegment& segment)
 {
-    return kind == SegmentKind::Literal || kind == SegmentKind::Value;
+    return (segment.kind == SegmentKind::Literal || segment.kind == SegmentKind::Value) && !segment.text.isEmpty();
 }
 
 /// How far a piece moves on what follows it, from the width of its text, in pixels.
-constexpr int advance_of(SegmentKind kind, int text_width)
+inline int advance_of(const OptionSegment& segment, int text_width)
 {
-    constexpr int box = 12, plain = 2;
-    if (kind == SegmentKind::Gap)
-        return text_width + box;
-    return is_boxed(kind) && text_width > 0 ? text_width + box : text_width + plain;
+    constexpr int wide = 12, narrow = 2;
+    return text_width + (is_boxed(segment) || segment.kind == SegmentKind::Gap ? wide : narrow);
 }

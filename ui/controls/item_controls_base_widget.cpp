@@ -31,19 +31,18 @@ QFormLayout* ItemControlsBaseWidget::begin_form()
 
 void ItemControlsBaseWidget::set_position(int position)
 {
-    if (!delete_button_)
-        add_delete_button();
     position_ = position;
     refresh();
 }
 
 void ItemControlsBaseWidget::add_delete_button()
 {
-    delete_button_ = new QPushButton(tr("Delete"));
+    auto* button = new QPushButton(tr("Delete"));
+    button->setAccessibleDescription(tr("Deletes the selected part"));
     // Return in a field must not press it.
-    delete_button_->setAutoDefault(false);
-    connect(delete_button_, &QPushButton::clicked, this, &ItemControlsBaseWidget::delete_requested);
-    rows_->addWidget(delete_button_, 1, 1, Qt::AlignBottom);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, &ItemControlsBaseWidget::delete_requested);
+    rows_->addWidget(button, 1, 1, Qt::AlignBottom);
 }
 
 void ItemControlsBaseWidget::refresh()
@@ -148,8 +147,12 @@ void ItemControlsBaseWidget::add_line_row(const QString& label, QLineEdit* edit)
 
 void ItemControlsBaseWidget::show_line(QLineEdit& edit, const QString& text)
 {
-    if (edit.text() != text)
-        edit.setText(text);
+    if (edit.text() == text)
+        return;
+    edit.setText(text);
+    // The end of a long number would pass for all of it.
+    if (!edit.hasFocus())
+        edit.setCursorPosition(0);
 }
 
 void ItemControlsBaseWidget::show_text(VariableSizeTextEdit& edit, const std::u16string& text)

@@ -15,7 +15,6 @@
 
 class QFormLayout;
 class QGridLayout;
-class QPushButton;
 
 /// Edits one part of a template: each control writes one setting of it, as a step of undo. Main thread only.
 ///
@@ -26,6 +25,9 @@ class ItemControlsBaseWidget : public QWidget
     Q_OBJECT
 
 public:
+    /// Adds the button "Delete". Once, after all controls, so that Tab comes to it last.
+    void add_delete_button();
+
     /// Shows the part that stands at this position; -1 shows none. It is of the class that the widget edits.
     void set_position(int position);
 
@@ -187,7 +189,6 @@ private:
     bool push(const QWidget* cause, const std::shared_ptr<const ItemPartBase>& changed, const QString& text,
               MergeId merge_id);
     void show_part(const QWidget* but);
-    void add_delete_button();
 
     QComboBox* new_combo(const QString& label, const QStringList& entries);
     QCheckBox* new_check(const QString& text);
@@ -202,5 +203,4 @@ private:
     int height_ = 0;
     QGridLayout* rows_;
     QFormLayout* form_ = nullptr;
-    QPushButton* delete_button_ = nullptr; ///< made after the controls, and so the last one that Tab comes to
 };

@@ -18,9 +18,9 @@ MVIntEdit::MVIntEdit(int minimum, int maximum, QWidget* parent) : QLineEdit(pare
 
 void MVIntEdit::text_changed(const QString& text)
 {
-    // A text that was beyond the bounds before the user came stays there until enough of it is gone.
+    // What is beyond the bounds, before the user came or on his way to a longer number, isn't written.
     QString checked = text;
     int position = 0;
-    if (validator_.validate(checked, position) != QValidator::Invalid)
+    if (text.isEmpty() || validator_.validate(checked, position) == QValidator::Acceptable)
         emit number_changed(text.toInt());
 }

@@ -10,8 +10,10 @@
 #include "ui/controls/size_controls_widget.h"
 #include "ui/controls/text_controls_widget.h"
 
-ItemControlsBaseWidget* make_part_controls(ItemPartBase::Type type, TemplateEdits& edits,
-                                           ExemplarItemProvider& exemplar, QWidget* parent)
+namespace {
+
+ItemControlsBaseWidget* new_controls(ItemPartBase::Type type, TemplateEdits& edits, ExemplarItemProvider& exemplar,
+                                     QWidget* parent)
 {
     using enum ItemPartBase::Type;
     switch (type) {
@@ -27,4 +29,15 @@ ItemControlsBaseWidget* make_part_controls(ItemPartBase::Type type, TemplateEdit
     case Checksum: return new ChecksumControlsWidget(edits, parent);
     }
     return nullptr;
+}
+
+}
+
+ItemControlsBaseWidget* make_part_controls(ItemPartBase::Type type, TemplateEdits& edits,
+                                           ExemplarItemProvider& exemplar, QWidget* parent)
+{
+    ItemControlsBaseWidget* controls = new_controls(type, edits, exemplar, parent);
+    if (controls)
+        controls->add_delete_button();
+    return controls;
 }

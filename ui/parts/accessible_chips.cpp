@@ -158,6 +158,14 @@ QAccessibleInterface* make_interface(const QString& /*class_name*/, QObject* obj
     return nullptr;
 }
 
+void tell(QObject* subject, QAccessible::Event what)
+{
+    if (!QAccessible::isActive())
+        return;
+    QAccessibleEvent event(subject, what);
+    QAccessible::updateAccessibility(&event);
+}
+
 }
 
 void install_accessible_chips()
@@ -165,29 +173,28 @@ void install_accessible_chips()
     QAccessible::installFactory(make_interface);
 }
 
-void announce_chips(ItemPartsWidget& widget)
+void announce_row(ItemPartsWidget& widget)
 {
-    if (!QAccessible::isActive())
-        return;
-    QAccessibleEvent reordered(&widget, QAccessible::ObjectReorder);
-    QAccessible::updateAccessibility(&reordered);
-    for (const ChipPointer& chip : widget.board().row()) {
-        QAccessibleEvent renamed(chip.get(), QAccessible::NameChanged);
-        QAccessible::updateAccessibility(&renamed);
-    }
+    tell(&widget, QAccessible::ObjectReorder);
 }
 
-void announce_current_chip(ItemPartsWidget& widget)
+void announce_name(ItemPartBaseDraw& chip)
 {
-    const ChipPointer chip = widget.current_chip();
-    if (!QAccessible::isActive() || !chip)
+    tell(&chip, QAccessible::NameChanged);
+}
+
+void announce_selection(const ChipPointer& before, const ChipPointer& now)
+{
+    if (before == now)
         return;
-    QAccessible::State changed;
-    changed.selected = true;
-    QAccessibleStateChangeEvent selected(chip.get(), changed);
-    QAccessible::updateAccessibility(&selected);
-    if (!widget.hasFocus())
-        return;
-    QAccessibleEvent focused(chip.get(), QAccessible::Focus);
-    QAccessible::updateAccessibility(&focused);
+    if (before)
+        tell(before.get(), QAccessible::SelectionRemove);
+    if (now)
+        tell(now.get(), QAccessible::SelectionAdd);
+}
+
+void announce_focus(ItemPartsWidget& widget)
+{
+    if (const ChipPointer chip = widget.current_chip())
+        tell(chip.get(), QAccessible::Focus);
 }

@@ -73,7 +73,11 @@ void ItemPartsContainerWidget::show_controls()
     const int selected = parts_->selected_index();
     const auto part = selected < 0 ? nullptr : edits_.parts()->at(static_cast<std::size_t>(selected));
     const auto controls = part ? controls_.find(part->type()) : controls_.end();
-    shown_ = controls == controls_.end() ? nullptr : controls->second;
+    ItemControlsBaseWidget* shown = controls == controls_.end() ? nullptr : controls->second;
+    // Who works in a control that goes is not to find himself elsewhere on the page.
+    if (shown_ && shown_ != shown && shown_->isAncestorOf(focusWidget()))
+        parts_->take_focus();
+    shown_ = shown;
     if (shown_) {
         shown_->set_position(selected);
         stack_->setCurrentWidget(shown_);

@@ -6,21 +6,27 @@
 #include <QMenu>
 
 #include <algorithm>
+#include <utility>
 
 ChipPointer ItemPartsWidget::current_chip() const
 {
-    const Chips& chips = zone_ == Zone::Palette ? board_.palette() : board_.row();
-    const int cursor = zone_ == Zone::Palette ? palette_cursor_ : row_cursor_;
+    const bool in_palette = zone() == Zone::Palette;
+    const Chips& chips = in_palette ? board_.palette() : board_.row();
+    const int cursor = in_palette ? palette_cursor_ : row_cursor_;
     if (chips.empty())
         return nullptr;
     return chips[static_cast<std::size_t>(std::clamp(cursor, 0, static_cast<int>(chips.size()) - 1))];
 }
 
+/// Escape ends a drag, and would close the window if it got there. One that is held down goes on coming.
+bool ItemPartsWidget::is_drags_escape(const QKeyEvent& event) const
+{
+    return event.key() == Qt::Key_Escape && (drag_.is_pressed() || button_down_ || event.isAutoRepeat());
+}
+
 bool ItemPartsWidget::event(QEvent* event)
 {
-    // Escape would close the window during a drag.
-    if (event->type() == QEvent::ShortcutOverride && drag_.is_pressed() &&
-        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+    if (event->type() == QEvent::ShortcutOverride && is_drags_escape(*static_cast<QKeyEvent*>(event))) {
         event->accept();
         return true;
     }
@@ -29,21 +35,29 @@ bool ItemPartsWidget::event(QEvent* event)
 
 void ItemPartsWidget::keyPressEvent(QKeyEvent* event)
 {
-    const bool in_drag = drag_.is_pressed();
-    by_keys_ = true;
-    if (in_drag && event->key() == Qt::Key_Escape) {
+    if (is_drags_escape(*event)) {
         drag_.cancel();
         return;
     }
-    if (!in_drag && (zone_ == Zone::Palette ? handle_palette_key(*event) : handle_row_key(*event)))
+    const bool is_framed = std::exchange(by_keys_, true);
+    if (!drag_.is_pressed() &&
+        (zone() == Zone::Palette ? handle_palette_key(*event) : handle_row_key(*event, is_framed)))
         return;
     QWidget::keyPressEvent(event);
 }
 
 namespace {
 
+/// Keys of the number block are like any others.
+Qt::KeyboardModifiers modifiers_of(const QKeyEvent& event)
+{
+    return event.modifiers() & ~Qt::KeypadModifier;
+}
+
 bool is_press(const QKeyEvent& event)
 {
+    if (modifiers_of(event) != Qt::NoModifier)
+        return false;
     return event.key() == Qt::Key_Space || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
@@ -77,29 +91,34 @@ bool ItemPartsWidget::handle_palette_key(const QKeyEvent& event)
         return true;
     }
     const int cursor = moved_cursor(event, palette_cursor_, board_.palette());
-    if (cursor < 0 || event.modifiers() != Qt::NoModifier)
+    if (cursor < 0 || modifiers_of(event) != Qt::NoModifier)
         return false;
     palette_cursor_ = cursor;
     show_current_chip();
     return true;
 }
 
-bool ItemPartsWidget::handle_row_key(const QKeyEvent& event)
+bool ItemPartsWidget::handle_row_key(const QKeyEvent& event, bool is_framed)
 {
-    const ChipPointer chip = current_chip();
-    if (!chip)
+    const bool has_selection = selected_index() >= 0;
+    const int index = board_.row_index_of(*current_chip());
+    const Qt::KeyboardModifiers modifiers = modifiers_of(event);
+    if (modifiers == Qt::ControlModifier && step_of(event) != 0) {
+        if (has_selection)
+            move_chip(index, step_of(event));
+        return true;
+    }
+    if (modifiers != Qt::NoModifier)
         return false;
-    const int index = board_.row_index_of(*chip);
+    const int cursor = moved_cursor(event, index, board_.row());
     if (is_press(event))
         board_.select(index);
     else if (event.key() == Qt::Key_Delete || event.key() == Qt::Key_Backspace)
-        board_.remove(index);
-    else if (event.modifiers() == Qt::ControlModifier && step_of(event) != 0)
-        move_chip(index, step_of(event));
-    else if (const int cursor = moved_cursor(event, index, board_.row());
-             cursor >= 0 && event.modifiers() == Qt::NoModifier)
+        // Without a selection the frame tells which one goes.
+        board_.remove(has_selection || is_framed ? index : -1);
+    else if (cursor >= 0)
         // The first arrow selects the chip that the frame is around.
-        board_.select(selected_index() < 0 && step_of(event) != 0 ? index : cursor);
+        board_.select(!has_selection && step_of(event) != 0 ? index : cursor);
     else
         return false;
     return true;
@@ -112,6 +131,7 @@ void ItemPartsWidget::move_chip(int index, int step)
 
 void ItemPartsWidget::add(ItemPartBase::Type type, const QRectF& origin)
 {
+    zone_ = zone(); // a row that had no chips doesn't take the keys to it
     const int selected = selected_index();
     const int end = static_cast<int>(board_.row().size());
     board_.add(ItemPartFactory::create(type), selected < 0 ? end : selected + 1, origin);
@@ -134,9 +154,8 @@ void ItemPartsWidget::show_current_chip()
     update();
     if (!hasFocus())
         return;
-    if (const ChipPointer chip = current_chip())
-        emit reveal(shown_rect(chip->motion().goal()).toAlignedRect());
-    announce_current_chip(*this);
+    reveal_chip(current_chip());
+    announce_focus(*this);
 }
 
 void ItemPartsWidget::focusInEvent(QFocusEvent* event)
@@ -152,14 +171,17 @@ void ItemPartsWidget::focusInEvent(QFocusEvent* event)
 
 void ItemPartsWidget::focusOutEvent(QFocusEvent* event)
 {
+    drag_.cancel();
     QWidget::focusOutEvent(event);
     update();
 }
 
 bool ItemPartsWidget::focusNextPrevChild(bool next)
 {
+    if (drag_.is_pressed())
+        return true;
     const Zone other = next ? Zone::Row : Zone::Palette;
-    if (zone_ == other || (next && board_.row().empty()))
+    if (zone() == other || (next && board_.row().empty()))
         return QWidget::focusNextPrevChild(next);
     by_keys_ = true;
     set_zone(other);

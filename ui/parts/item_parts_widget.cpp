@@ -26,6 +26,7 @@ ItemPartsWidget::ItemPartsWidget(const std::vector<ItemPartBase::Type>& palette,
             animation_timer_.start();
     });
     connect(&board_, &ChipBoard::edited, this, &ItemPartsWidget::push_parts_undo);
+    connect(&board_, &ChipBoard::chip_renamed, this, announce_name);
     connect(&board_, &ChipBoard::selection_changed, this, &ItemPartsWidget::note_selection);
 }
 
@@ -52,15 +53,17 @@ void ItemPartsWidget::set_parts(const ItemPartsList& parts)
     board_.set_parts(parts);
     row_cursor_ = 0;
     emit selection_changed();
-    announce_chips(*this);
+    announce_row(*this);
 }
 
 void ItemPartsWidget::sync_parts(const ItemPartsList& parts)
 {
-    if (!board_.shows(parts))
+    const bool are_others = !board_.shows(parts);
+    if (are_others)
         drag_.cancel();
     board_.sync_parts(parts);
-    announce_chips(*this);
+    if (are_others)
+        announce_row(*this);
 }
 
 void ItemPartsWidget::push_parts_undo(const QString& text)
@@ -69,6 +72,7 @@ void ItemPartsWidget::push_parts_undo(const QString& text)
     for (const ChipPointer& chip : board_.row())
         parts.append(chip->part());
     edits_.change_list(parts, text);
+    announce_row(*this);
 }
 
 void ItemPartsWidget::note_selection()
@@ -76,21 +80,44 @@ void ItemPartsWidget::note_selection()
     if (board_.selected_index() >= 0)
         row_cursor_ = board_.selected_index();
     show_current_chip();
+    reveal_chip(board_.selected_chip());
     emit selection_changed();
-    announce_current_chip(*this);
+    announce_selection(told_selection_.lock(), board_.selected_chip());
+    told_selection_ = board_.selected_chip();
+}
+
+void ItemPartsWidget::reveal_chip(const ChipPointer& chip)
+{
+    if (chip)
+        emit reveal(shown_rect(chip->motion().goal()).toAlignedRect());
 }
 
 void ItemPartsWidget::activate(const ItemPartBaseDraw& chip)
 {
-    if (chip.is_palette())
+    drag_.cancel();
+    if (chip.is_palette()) {
         add(chip.type(), chip.rect());
-    else
-        board_.select(board_.row_index_of(chip));
+        return;
+    }
+    zone_ = Zone::Row;
+    board_.select(board_.row_index_of(chip));
 }
 
 void ItemPartsWidget::remove(const ItemPartBaseDraw& chip)
 {
-    board_.remove(board_.row_index_of(chip));
+    delete_part(board_.row_index_of(chip));
+}
+
+void ItemPartsWidget::delete_part(int index)
+{
+    drag_.cancel();
+    board_.remove(index);
+}
+
+void ItemPartsWidget::take_focus()
+{
+    zone_ = Zone::Row;
+    setFocus(Qt::OtherFocusReason);
 }
 
 void ItemPartsWidget::tick()
@@ -124,6 +151,7 @@ void ItemPartsWidget::mousePressEvent(QMouseEvent* event)
     if (event->button() != Qt::LeftButton)
         return;
     by_keys_ = false;
+    button_down_ = true;
     const QPointF point = board_point(event->position());
     drag_.press(point);
     set_zone(point.y() < board_.metrics().band_top() ? Zone::Palette : Zone::Row);
@@ -139,8 +167,12 @@ void ItemPartsWidget::mouseMoveEvent(QMouseEvent* event)
 
 void ItemPartsWidget::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (event->button() == Qt::LeftButton)
-        drag_.release();
+    if (event->button() != Qt::LeftButton)
+        return;
+    button_down_ = false;
+    drag_.release();
+    if (selected_index() >= 0)
+        zone_ = Zone::Row;
 }
 
 void ItemPartsWidget::leaveEvent(QEvent* event)

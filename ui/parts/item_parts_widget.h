@@ -27,7 +27,7 @@ public:
     int selected_index() const { return board_.selected_index(); }
 
     /// Nothing for an index out of range.
-    void delete_part(int index) { board_.remove(index); }
+    void delete_part(int index);
 
     const ChipBoard& board() const { return board_; }
 
@@ -38,6 +38,9 @@ public:
     void activate(const ItemPartBaseDraw& chip);
     /// Takes a chip out of the row.
     void remove(const ItemPartBaseDraw& chip);
+
+    /// Puts the focus on the row.
+    void take_focus();
 
     /// The chip that keys go to; null while there is none.
     ChipPointer current_chip() const;
@@ -84,12 +87,17 @@ private:
     void note_selection();
     void take_scheme_colours();
 
-    bool handle_row_key(const QKeyEvent& event);
+    /// Where keys go: never to a row without chips.
+    Zone zone() const { return board_.row().empty() ? Zone::Palette : zone_; }
+
+    bool is_drags_escape(const QKeyEvent& event) const;
+    bool handle_row_key(const QKeyEvent& event, bool is_framed);
     bool handle_palette_key(const QKeyEvent& event);
     int step_of(const QKeyEvent& event) const;
     int moved_cursor(const QKeyEvent& event, int cursor, const Chips& chips) const;
     void set_zone(Zone zone);
     void show_current_chip();
+    void reveal_chip(const ChipPointer& chip);
     void add(ItemPartBase::Type type, const QRectF& origin);
     void duplicate(const ItemPartBaseDraw& chip);
     void show_menu(const ChipPointer& chip, const QPoint& global);
@@ -104,6 +112,8 @@ private:
     ChipBoard board_;
     ChipDrag drag_;
     QTimer animation_timer_;
+    std::weak_ptr<ItemPartBaseDraw> told_selection_; ///< the one that screen readers know
+    bool button_down_ = false;
     Zone zone_ = Zone::Palette;
     bool by_keys_ = false; ///< the user's last step, so that he wants to see where keys go
     int palette_cursor_ = 0;

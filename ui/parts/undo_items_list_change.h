@@ -7,15 +7,24 @@
 class PartsSnapshot
 {
 public:
-    explicit PartsSnapshot(const ItemPartsList& parts) : parts_(parts.begin(), parts.end()), settings_(parts) {}
+    explicit PartsSnapshot(const ItemPartsList& parts) : PartsSnapshot(parts, {}) {}
+
+    /// `same_moment` knows the settings of some of these parts already, which need not be kept twice.
+    PartsSnapshot(const ItemPartsList& parts, const PartsSnapshot& same_moment);
 
     /// A list of the same parts, which have their settings of that moment again: an editor knows them by their
     /// identity.
     std::shared_ptr<ItemPartsList> restored() const;
 
 private:
-    std::vector<std::shared_ptr<ItemPartBase>> parts_;
-    ItemPartsList settings_;
+    struct Entry {
+        std::shared_ptr<ItemPartBase> part;
+        std::shared_ptr<const ItemPartBase> settings;
+    };
+
+    PartsSnapshot() = default;
+
+    std::vector<Entry> entries_;
 };
 
 /// Other parts in a template, or in another order.
