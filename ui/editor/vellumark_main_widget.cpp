@@ -14,6 +14,8 @@
 #include <QSettings>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 constexpr QLatin1StringView splitter_key("VKVerticalSplitter");
@@ -83,7 +85,7 @@ void VellumarkMainWidget::show_preview_progress(const QString& status, const QSt
 void VellumarkMainWidget::set_expanded(bool expanded)
 {
     header_->set_expanded(expanded);
-    pane_->setVisible(expanded);
+    on_view_edit_header_toggled(expanded);
 }
 
 void VellumarkMainWidget::save_settings(QSettings& settings) const
@@ -99,4 +101,16 @@ void VellumarkMainWidget::restore_settings(QSettings& settings)
 void VellumarkMainWidget::on_view_edit_header_toggled(bool expanded)
 {
     pane_->setVisible(expanded);
+    if (expanded)
+        make_room_for_pane();
+}
+
+/// Whatever height it had, perhaps in a smaller window, the first section is to be seen.
+void VellumarkMainWidget::make_room_for_pane()
+{
+    const QList<int> heights = splitter_->sizes();
+    const int all = heights[0] + heights[1];
+    const int least = std::min(all / 2, sections_.front()->sizeHint().height() + 2 * header_->height());
+    if (heights[0] < least)
+        splitter_->setSizes({least, all - least});
 }

@@ -42,6 +42,7 @@ private slots:
 
 private:
     QWidget* make_sections();
+    void make_room_for_pane();
 
     AppServices& app_;
     DisclosureHeader* header_ = nullptr;
