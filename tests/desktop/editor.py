@@ -1,5 +1,7 @@
 """The editing pane of the application's window, as a screen reader sees it and as mouse and keys work it."""
 
+import time
+
 import accessibility
 import pyatspi
 from desktop import wait_until
@@ -50,6 +52,18 @@ class PartsEditor:
     def _gap(self, name):
         x, y = self.middle(name)
         return x + 3, y
+
+    def click(self, control):
+        """Once it has come to rest: sections move to their heights."""
+        places = []
+
+        def rests():
+            time.sleep(0.1)
+            places.append(self.program.middle(control))
+            return places[-2:] == places[-1:] * 2
+
+        wait_until(rests, "the control's rest")
+        self.program.desktop.click(*places[-1])
 
     def control(self, role, name):
         """A control of the selected part. A combo box tells its value as its name, so it is found by its label."""

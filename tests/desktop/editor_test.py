@@ -79,14 +79,11 @@ class Editor(ProgramTest):
 
     def set_by_mouse(self, role, name, value):
         control = self.editor.control(role, name)
+        self.editor.click(control)
         if role == "combo box":
-            self.program.click(control)
             entries = accessibility.find(control, "list")
             self.program.click(entries.getChildAtIndex(value))
-        elif role == "check box":
-            self.program.click(control)
-        else:
-            self.program.click(control)
+        elif role == "text":
             self.desktop.key("ctrl+a")
             self.desktop.type(value)
 

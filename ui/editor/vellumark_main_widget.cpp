@@ -101,16 +101,18 @@ void VellumarkMainWidget::restore_settings(QSettings& settings)
 void VellumarkMainWidget::on_view_edit_header_toggled(bool expanded)
 {
     pane_->setVisible(expanded);
+    // Once the splitter has placed it.
     if (expanded)
-        make_room_for_pane();
+        QMetaObject::invokeMethod(this, &VellumarkMainWidget::make_room_for_pane, Qt::QueuedConnection);
 }
 
-/// Whatever height it had, perhaps in a smaller window, the first section is to be seen.
+/// A pane that nobody has given a height yet shows its first section.
 void VellumarkMainWidget::make_room_for_pane()
 {
     const QList<int> heights = splitter_->sizes();
+    if (heights[0] > pane_->minimumSizeHint().height())
+        return;
     const int all = heights[0] + heights[1];
-    const int least = std::min(all / 2, sections_.front()->sizeHint().height() + 2 * header_->height());
-    if (heights[0] < least)
-        splitter_->setSizes({least, all - least});
+    const int wanted = std::min(all / 2, sections_.front()->sizeHint().height() + 2 * header_->height());
+    splitter_->setSizes({wanted, all - wanted});
 }
