@@ -44,7 +44,15 @@ def find_all(root, role=None, name=None, showing=True):
 
 def find(root, role=None, name=None, showing=True):
     """The first such node, once there is one."""
-    return wait_until(lambda: find_all(root, role, name, showing), f"'{name}', a {role}")[0]
+
+    def search():
+        found = find_all(root, role, name, showing)
+        if not found:
+            # The library remembers what it has seen, for good where word of a change was lost.
+            root.clearCache()
+        return found
+
+    return wait_until(search, f"'{name}', a {role}")[0]
 
 
 def text_of(node):

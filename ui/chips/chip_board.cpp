@@ -178,7 +178,7 @@ QRectF ChipBoard::origin_of(ItemPartBase::Type type) const
     return chip == palette_.end() ? QRectF() : (*chip)->rect();
 }
 
-void ChipBoard::add(std::shared_ptr<ItemPartBase> part, int index, const QRectF& origin)
+void ChipBoard::add(const std::shared_ptr<ItemPartBase>& part, int index, const QRectF& origin)
 {
     const ChipPointer chip = hosted(make_chip(part));
     chip->motion().set_rect(origin);

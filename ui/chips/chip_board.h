@@ -63,7 +63,7 @@ public:
     bool shows(const ItemPartsList& parts) const;
 
     /// Adds a part, whose chip comes from `origin`, before the chip at an index or at the end, and selects it.
-    void add(std::shared_ptr<ItemPartBase> part, int index, const QRectF& origin);
+    void add(const std::shared_ptr<ItemPartBase>& part, int index, const QRectF& origin);
     /// Moves a chip before another one, or to the end, and selects it. Nothing when it stands there already.
     void reorder(int index, int target);
     void remove(int index);
