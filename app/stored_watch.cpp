@@ -26,10 +26,8 @@ constexpr std::chrono::milliseconds patience{200};
 
 /// The file itself is another one after each save, though the watcher takes it for the one that it knows. Where there
 /// is no folder for it yet, the one that it will be made in tells of that.
-void watch_anew(QFileSystemWatcher& watcher)
+void watch_path(QFileSystemWatcher& watcher, const QString& file)
 {
-    const std::u16string path = MVConfig::get_global().path(FileKind::UserCommands);
-    const QString file = QFile::decodeName(QByteArray::fromStdString(platform::to_host_path(path)));
     QFileInfo folder(QFileInfo(file).path());
     while (!folder.exists() && !folder.isRoot())
         folder.setFile(folder.path());
@@ -46,7 +44,8 @@ StoredWatch::StoredWatch(QObject& window, std::function<commands_file::Loaded()>
     look_timer_.setInterval(time_to_rest);
     connect(watcher_, &QFileSystemWatcher::directoryChanged, this, &StoredWatch::look_soon);
     connect(watcher_, &QFileSystemWatcher::fileChanged, this, &StoredWatch::look_soon);
-    connect(this, &StoredWatch::watch_wanted, watcher_, [watcher = watcher_] { watch_anew(*watcher); });
+    connect(this, &StoredWatch::watch_wanted, watcher_,
+            [watcher = watcher_](const QString& file) { watch_path(*watcher, file); });
     connect(thread_.get(), &QThread::finished, watcher_, &QObject::deleteLater);
     connect(&look_timer_, &QTimer::timeout, this, &StoredWatch::look);
     watcher_->moveToThread(thread_.get());
@@ -62,16 +61,22 @@ StoredWatch::~StoredWatch()
         static_cast<void>(thread_.release());
 }
 
+void StoredWatch::watch_anew()
+{
+    const std::u16string path = MVConfig::get_global().path(FileKind::UserCommands);
+    emit watch_wanted(QFile::decodeName(QByteArray::fromStdString(platform::to_host_path(path))), QPrivateSignal());
+}
+
 void StoredWatch::start()
 {
     is_started_ = true;
-    emit watch_wanted(QPrivateSignal());
+    watch_anew();
 }
 
 void StoredWatch::file_written()
 {
     is_outdated_ = is_reading_;
-    emit watch_wanted(QPrivateSignal());
+    watch_anew();
 }
 
 bool StoredWatch::eventFilter(QObject* watched, QEvent* event)
@@ -95,7 +100,7 @@ void StoredWatch::look()
 void StoredWatch::take()
 {
     is_reading_ = false;
-    emit watch_wanted(QPrivateSignal());
+    watch_anew();
     if (std::exchange(is_outdated_, false)) {
         look_soon();
         return;

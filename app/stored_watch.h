@@ -39,9 +39,10 @@ signals:
     void read(const commands_file::Loaded& loaded);
 
     /// For the watcher, on its thread.
-    void watch_wanted(QPrivateSignal);
+    void watch_wanted(const QString& file, QPrivateSignal);
 
 private:
+    void watch_anew();
     void look();
     void take();
 
