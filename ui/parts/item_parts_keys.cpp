@@ -3,10 +3,10 @@
 #include "ui/parts/item_parts_widget.h"
 
 #include <QContextMenuEvent>
+#include <QGuiApplication>
 #include <QMenu>
 
 #include <algorithm>
-#include <utility>
 
 ChipPointer ItemPartsWidget::current_chip() const
 {
@@ -21,7 +21,8 @@ ChipPointer ItemPartsWidget::current_chip() const
 /// Escape ends a drag, and would close the window if it got there. One that is held down goes on coming.
 bool ItemPartsWidget::is_drags_escape(const QKeyEvent& event) const
 {
-    return event.key() == Qt::Key_Escape && (drag_.is_pressed() || button_down_ || event.isAutoRepeat());
+    return event.key() == Qt::Key_Escape &&
+           (QGuiApplication::mouseButtons() != Qt::NoButton || drag_.is_pressed() || event.isAutoRepeat());
 }
 
 bool ItemPartsWidget::event(QEvent* event)
@@ -39,11 +40,12 @@ void ItemPartsWidget::keyPressEvent(QKeyEvent* event)
         drag_.cancel();
         return;
     }
-    const bool is_framed = std::exchange(by_keys_, true);
-    if (!drag_.is_pressed() &&
-        (zone() == Zone::Palette ? handle_palette_key(*event) : handle_row_key(*event, is_framed)))
+    if (drag_.is_pressed() || !(zone() == Zone::Palette ? handle_palette_key(*event) : handle_row_key(*event))) {
+        QWidget::keyPressEvent(event);
         return;
-    QWidget::keyPressEvent(event);
+    }
+    by_keys_ = true;
+    update();
 }
 
 namespace {
@@ -98,7 +100,7 @@ bool ItemPartsWidget::handle_palette_key(const QKeyEvent& event)
     return true;
 }
 
-bool ItemPartsWidget::handle_row_key(const QKeyEvent& event, bool is_framed)
+bool ItemPartsWidget::handle_row_key(const QKeyEvent& event)
 {
     const bool has_selection = selected_index() >= 0;
     const int index = board_.row_index_of(*current_chip());
@@ -115,7 +117,7 @@ bool ItemPartsWidget::handle_row_key(const QKeyEvent& event, bool is_framed)
         board_.select(index);
     else if (event.key() == Qt::Key_Delete || event.key() == Qt::Key_Backspace)
         // Without a selection the frame tells which one goes.
-        board_.remove(has_selection || is_framed ? index : -1);
+        board_.remove(has_selection || by_keys_ ? index : -1);
     else if (cursor >= 0)
         // The first arrow selects the chip that the frame is around.
         board_.select(!has_selection && step_of(event) != 0 ? index : cursor);

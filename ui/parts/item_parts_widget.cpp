@@ -151,7 +151,6 @@ void ItemPartsWidget::mousePressEvent(QMouseEvent* event)
     if (event->button() != Qt::LeftButton)
         return;
     by_keys_ = false;
-    button_down_ = true;
     const QPointF point = board_point(event->position());
     drag_.press(point);
     set_zone(point.y() < board_.metrics().band_top() ? Zone::Palette : Zone::Row);
@@ -169,7 +168,6 @@ void ItemPartsWidget::mouseReleaseEvent(QMouseEvent* event)
 {
     if (event->button() != Qt::LeftButton)
         return;
-    button_down_ = false;
     drag_.release();
     if (selected_index() >= 0)
         zone_ = Zone::Row;

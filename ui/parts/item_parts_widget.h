@@ -91,7 +91,7 @@ private:
     Zone zone() const { return board_.row().empty() ? Zone::Palette : zone_; }
 
     bool is_drags_escape(const QKeyEvent& event) const;
-    bool handle_row_key(const QKeyEvent& event, bool is_framed);
+    bool handle_row_key(const QKeyEvent& event);
     bool handle_palette_key(const QKeyEvent& event);
     int step_of(const QKeyEvent& event) const;
     int moved_cursor(const QKeyEvent& event, int cursor, const Chips& chips) const;
@@ -113,7 +113,6 @@ private:
     ChipDrag drag_;
     QTimer animation_timer_;
     std::weak_ptr<ItemPartBaseDraw> told_selection_; ///< the one that screen readers know
-    bool button_down_ = false;
     Zone zone_ = Zone::Palette;
     bool by_keys_ = false; ///< the user's last step, so that he wants to see where keys go
     int palette_cursor_ = 0;
