@@ -2,6 +2,12 @@
 
 namespace platform {
 
+namespace {
+
+constexpr std::uint64_t image_width = 0x100, image_length = 0x101, bits_per_sample = 0x102, samples_per_pixel = 0x115;
+
+}
+
 /// The tags of the first picture (TIFF 6.0, section 2); of several samples the first tells the bits.
 std::optional<ImageHeader> tiff_header(SubjectFile& file)
 {
@@ -18,15 +24,15 @@ std::optional<ImageHeader> tiff_header(SubjectFile& file)
         constexpr std::uint64_t is_short = 3;
         const std::size_t size = type == is_short ? 2 : 4;
         const std::uint64_t value = directory.at(at + value_at, count * size > 4 ? 4 : size);
-        switch (directory.at(at, 2)) {
-        case 0x100: header.width = value; break;
-        case 0x101: header.height = value; break;
-        case 0x102:
+        const std::uint64_t tag = directory.at(at, 2);
+        if (tag == image_width)
+            header.width = value;
+        else if (tag == image_length)
+            header.height = value;
+        else if (tag == bits_per_sample)
             bits = count * size > 4 ? HeaderNumbers(file.read_text(value, size), is_big_endian).at(0, size) : value;
-            break;
-        case 0x115: samples = value; break;
-        default: break;
-        }
+        else if (tag == samples_per_pixel)
+            samples = value;
     }
     constexpr std::uint64_t most = 64;
     header.bit_depth = samples <= most && bits <= most ? samples * bits : 0;

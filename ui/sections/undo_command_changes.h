@@ -1,0 +1,60 @@
+#pragma once
+
+#include "ui/sections/undo_field_change.h"
+
+/// Which of the texts around a command's items.
+enum class AdditionalText : std::uint32_t { Start, End };
+
+namespace command_fields {
+
+/// When the menu shows a command.
+struct MenuRule {
+    bool is_default = true; ///< `rule` follows from the templates
+    ShowRule rule = ShowRule::AtLeastOneItem;
+
+    bool operator==(const MenuRule&) const = default;
+};
+
+inline MenuRule menu_rule(const VellumarkCommand& command)
+{
+    return {command.show_using_default_rules(), command.show_rule()};
+}
+
+inline void set_menu_rule(VellumarkCommand& command, const MenuRule& rule)
+{
+    command.set_show(rule.is_default, rule.rule);
+}
+
+template <AdditionalText which>
+const std::u16string& additional_text(const VellumarkCommand& command)
+{
+    return which == AdditionalText::Start ? command.start_text() : command.end_text();
+}
+
+template <AdditionalText which>
+void set_additional_text(VellumarkCommand& command, std::u16string text)
+{
+    if constexpr (which == AdditionalText::Start)
+        command.set_start_text(std::move(text));
+    else
+        command.set_end_text(std::move(text));
+}
+
+}
+
+using UndoFoldersAsFilesChange =
+    UndoFieldChange<&VellumarkCommand::same_parts_for_folders, &VellumarkCommand::set_same_parts_for_folders>;
+using UndoAddFilesFromFoldersChange =
+    UndoFieldChange<&VellumarkCommand::add_files_from_folders, &VellumarkCommand::set_add_files_from_folders>;
+using UndoMaxFolderDepthChange =
+    UndoFieldChange<&VellumarkCommand::max_folder_depth, &VellumarkCommand::set_max_folder_depth>;
+using UndoItemSeparatorChange =
+    UndoFieldChange<&VellumarkCommand::separator, &VellumarkCommand::set_separator, MergeId::Separator>;
+template <AdditionalText which>
+using UndoAdditionalTextChange =
+    UndoFieldChange<&command_fields::additional_text<which>, &command_fields::set_additional_text<which>,
+                    which == AdditionalText::Start ? MergeId::StartText : MergeId::EndText>;
+using UndoNoStartEndTextIfOneItemChange = UndoFieldChange<&VellumarkCommand::no_start_end_text_if_one_item,
+                                                          &VellumarkCommand::set_no_start_end_text_if_one_item>;
+using UndoSortOrderChange = UndoFieldChange<&VellumarkCommand::sort_order, &VellumarkCommand::set_sort_order>;
+using UndoContextMenuOptions = UndoFieldChange<&command_fields::menu_rule, &command_fields::set_menu_rule>;
