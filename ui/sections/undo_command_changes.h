@@ -11,8 +11,6 @@ namespace command_fields {
 struct MenuRule {
     bool is_default = true; ///< `rule` follows from the templates
     ShowRule rule = ShowRule::AtLeastOneItem;
-
-    bool operator==(const MenuRule&) const = default;
 };
 
 inline MenuRule menu_rule(const VellumarkCommand& command)
@@ -23,6 +21,24 @@ inline MenuRule menu_rule(const VellumarkCommand& command)
 inline void set_menu_rule(VellumarkCommand& command, const MenuRule& rule)
 {
     command.set_show(rule.is_default, rule.rule);
+}
+
+/// How deep files are looked for in folders.
+struct DepthLimit {
+    bool is_on = false;
+    std::int32_t depth = 1; ///< kept while it isn't on
+};
+
+inline DepthLimit depth_limit(const VellumarkCommand& command)
+{
+    return {command.limit_folder_depth(), command.max_folder_depth()};
+}
+
+/// Both at once: turning the limit on may raise the depth, which undo has to take back.
+inline void set_depth_limit(VellumarkCommand& command, const DepthLimit& limit)
+{
+    command.set_max_folder_depth(limit.depth);
+    command.set_limit_folder_depth(limit.is_on);
 }
 
 template <AdditionalText which>
@@ -46,6 +62,7 @@ using UndoFoldersAsFilesChange =
     UndoFieldChange<&VellumarkCommand::same_parts_for_folders, &VellumarkCommand::set_same_parts_for_folders>;
 using UndoAddFilesFromFoldersChange =
     UndoFieldChange<&VellumarkCommand::add_files_from_folders, &VellumarkCommand::set_add_files_from_folders>;
+using UndoLimitFolderDepthChange = UndoFieldChange<&command_fields::depth_limit, &command_fields::set_depth_limit>;
 using UndoMaxFolderDepthChange =
     UndoFieldChange<&VellumarkCommand::max_folder_depth, &VellumarkCommand::set_max_folder_depth>;
 using UndoItemSeparatorChange =

@@ -25,9 +25,15 @@ public:
     int id() const override { return static_cast<int>(merge_id); }
 
 private:
-    void write_old(MVCommandBase& command) override { std::invoke(set, dynamic_cast<VellumarkCommand&>(command), old_); }
+    void write_old(MVCommandBase& command) override
+    {
+        std::invoke(set, dynamic_cast<VellumarkCommand&>(command), old_);
+    }
 
-    void write_new(MVCommandBase& command) override { std::invoke(set, dynamic_cast<VellumarkCommand&>(command), new_); }
+    void write_new(MVCommandBase& command) override
+    {
+        std::invoke(set, dynamic_cast<VellumarkCommand&>(command), new_);
+    }
 
     bool join(const CommandStep& later) override
     {

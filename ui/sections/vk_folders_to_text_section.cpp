@@ -1,7 +1,7 @@
 #include "ui/sections/vk_folders_to_text_section.h"
 
 #include "ui/parts/item_parts_container_widget.h"
-#include "ui/sections/undo_field_change.h"
+#include "ui/sections/undo_command_changes.h"
 
 #include <QCheckBox>
 #include <QFrame>
