@@ -2,6 +2,7 @@
 
 #include "app/mirvanta_app.h"
 #include "app/settings_keys.h"
+#include "app/window_keys.h"
 #include "ui/dialogs/no_commands_widget.h"
 #include "ui/editor/command_controller_base.h"
 #include "ui/editor/command_main_widget_base.h"
@@ -17,10 +18,18 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 // In the order in which the tabs are added.
 constexpr int menu_tab = 0, library_tab = 1;
+
+void tell_keys(QPushButton& button, const QKeySequence& keys)
+{
+    button.setToolTip(MainAppUi::tr("%1 (%2)").arg(button.text(), keys.toString(QKeySequence::NativeText)));
+}
 
 }
 
@@ -49,6 +58,7 @@ QWidget* MainAppUi::make_left_pane()
     row->setContentsMargins(0, 0, 0, 6);
     row->addStretch();
     save_ = new QPushButton(tr("Save"));
+    tell_keys(*save_, window_keys::save_keys);
     connect(save_, &QPushButton::clicked, &app_, &MirvantaApp::save_commands_list);
     // The list above keeps its height while the button hides.
     QSizePolicy policy = save_->sizePolicy();
@@ -96,7 +106,8 @@ QWidget* MainAppUi::make_button_row()
         return button;
     };
     duplicate_ = add_button(tr("Duplicate"), &MirvantaApp::duplicate_command_btn_pressed);
-    add_button(tr("New"), &MirvantaApp::new_command_btn_pressed);
+    tell_keys(*duplicate_, window_keys::duplicate_keys);
+    tell_keys(*add_button(tr("New"), &MirvantaApp::new_command_btn_pressed), window_keys::new_keys);
     layout->addStretch();
     delete_ = add_button(tr("Delete"), &MirvantaApp::delete_command_btn_pressed);
     return row;
@@ -120,6 +131,24 @@ void MainAppUi::show_page(CommandControllerBase* editor)
     const CommandsListController& list = app_.active_list();
     no_command_->set_state(&list == &app_.library_list(), list.is_empty());
     pages_->setCurrentWidget(no_command_);
+}
+
+std::vector<QWidget*> MainAppUi::focus_areas() const
+{
+    const CommandsListController& active = app_.active_list();
+    std::vector<QWidget*> areas;
+    for (const CommandsListWidget* list : findChildren<CommandsListWidget*>())
+        if (&list->controller() == &active)
+            areas.push_back(&list->view());
+    if (const auto* page = qobject_cast<CommandMainWidgetBase*>(pages_->currentWidget()))
+        std::ranges::copy(page->focus_areas(), std::back_inserter(areas));
+    return areas;
+}
+
+void MainAppUi::press_duplicate()
+{
+    if (duplicate_->isEnabled())
+        app_.duplicate_command_btn_pressed();
 }
 
 void MainAppUi::show_silent_items(std::size_t count)

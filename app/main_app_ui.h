@@ -37,6 +37,12 @@ public:
     void show_save_button(bool visible);
     void enable_delete_button(bool enabled);
 
+    /// The list that shows, then what the page that shows has of its own.
+    std::vector<QWidget*> focus_areas() const;
+
+    /// Nothing while the button is disabled.
+    void press_duplicate();
+
     /// Shows the tab of one of the two lists.
     void show_tab_of(const CommandsListController& list);
 

@@ -5,6 +5,7 @@
 #include "app/main_app_ui.h"
 #include "app/selection_paths.h"
 #include "app/tool_row.h"
+#include "app/window_keys.h"
 #include "app/window_layout.h"
 #include "app/window_state.h"
 #include "engine/commands/vellumark_command.h"
@@ -52,6 +53,7 @@ MirvantaApp::MirvantaApp(const MakeEditors& make_editors, StoredFiles files)
     source_.start();
     ui_ = std::make_unique<MainAppUi>(*this);
     connect_all();
+    window_keys::add(*this, *ui_);
     lay_out();
     window_state::restore(*this, *ui_);
     refresh_save_and_delete();
@@ -262,6 +264,13 @@ bool MirvantaApp::save_commands_list()
     const bool saved = stored_flow_.save();
     refresh_save_and_delete();
     return saved;
+}
+
+void MirvantaApp::save_key_pressed()
+{
+    ui_->finish_edits();
+    if (stored_.has_unsaved_changes())
+        save_commands_list();
 }
 
 void MirvantaApp::on_about()

@@ -88,6 +88,8 @@ public slots:
     void delete_command_btn_pressed();
     /// True when the commands file was written. Whatever speaks against is shown to the user.
     bool save_commands_list();
+    /// What Ctrl+S does: as `save_commands_list`, but nothing when there is nothing to save.
+    void save_key_pressed();
     void on_about();
     void active_tab_changed(int tab_index);
     void move_commands_to_other_list();

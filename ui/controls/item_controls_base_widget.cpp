@@ -9,7 +9,6 @@
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 
-#include <algorithm>
 #include <limits>
 #include <utility>
 
@@ -153,20 +152,4 @@ void ItemControlsBaseWidget::show_line(QLineEdit& edit, const QString& text)
     // The end of a long number would pass for all of it.
     if (!edit.hasFocus())
         edit.setCursorPosition(0);
-}
-
-void ItemControlsBaseWidget::show_text(VariableSizeTextEdit& edit, const std::u16string& text)
-{
-    if (edit.stored_text() == text)
-        return;
-    const bool focused = edit.hasFocus();
-    QTextCursor cursor = edit.textCursor();
-    const int position = cursor.position();
-    edit.set_stored_text(text);
-    if (!focused)
-        return;
-    // The text came by undo, and the user goes on typing.
-    cursor.setPosition(std::min(position, static_cast<int>(edit.document()->characterCount()) - 1));
-    edit.setTextCursor(cursor);
-    edit.setFocus();
 }

@@ -106,7 +106,7 @@ protected:
         auto* edit = new VariableSizeTextEdit;
         add_row(label, edit);
         join(
-            edit, setting, &QTextEdit::textChanged, [edit](const std::u16string& text) { show_text(*edit, text); },
+            edit, setting, &QTextEdit::textChanged, [edit](const std::u16string& text) { edit->follow_text(text); },
             [edit] { return edit->stored_text(); });
         return edit;
     }
@@ -194,7 +194,6 @@ private:
     QCheckBox* new_check(const QString& text);
     void add_line_row(const QString& label, QLineEdit* edit);
     static void show_line(QLineEdit& edit, const QString& text);
-    static void show_text(VariableSizeTextEdit& edit, const std::u16string& text);
 
     TemplateEdits& edits_;
     int position_ = -1;

@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include <vector>
+
 class CommandControllerBase;
 class QSettings;
 
@@ -14,6 +16,9 @@ public:
     CommandMainWidgetBase(CommandControllerBase& controller, QWidget* parent);
 
     CommandControllerBase& controller() const { return controller_; }
+
+    /// What F6 goes through, in order: of each area the part that had the focus last, or its first one.
+    virtual std::vector<QWidget*> focus_areas() const { return {}; }
 
     /// Writes what the page keeps between sessions.
     virtual void save_settings(QSettings& /*settings*/) const {}

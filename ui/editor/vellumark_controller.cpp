@@ -130,6 +130,7 @@ bool VellumarkController::copy_text()
 void VellumarkController::update_after_curr_command_changed()
 {
     generator_.set_command(current_command_);
+    page_->update_sections();
     emit current_command_changed();
 }
 

@@ -2,15 +2,13 @@
 
 #include "engine/items/mv_items_set.h"
 #include "ui/app_services.h"
+#include "ui/editor/editing_pane.h"
 #include "ui/editor/vellumark_controller.h"
 #include "ui/preview/clipboard_preview_container_widget.h"
-#include "ui/sections/vk_files_to_text_section.h"
-#include "ui/sections/vk_folders_to_text_section.h"
 #include "ui/selection_services.h"
 #include "ui/widgets/disclosure_header.h"
 #include "ui/widgets/grip_splitter.h"
 
-#include <QScrollArea>
 #include <QSettings>
 #include <QVBoxLayout>
 
@@ -18,24 +16,21 @@
 
 namespace {
 
-constexpr QLatin1StringView splitter_key("VKVerticalSplitter");
+constexpr QLatin1StringView splitter_key("VKVerticalSplitter"), pane_open_key("VKEditingPaneOpen");
 
 }
 
 VellumarkMainWidget::VellumarkMainWidget(AppServices& app, VellumarkController& controller, QWidget* parent)
     : CommandMainWidgetBase(controller, parent), app_(app), header_(new DisclosureHeader(tr("View/Edit"))),
-      splitter_(new GripSplitter(Qt::Vertical)), pane_(new QScrollArea), preview_(new ClipboardPreviewContainerWidget)
+      splitter_(new GripSplitter(Qt::Vertical)), pane_(new EditingPane(app)),
+      preview_(new ClipboardPreviewContainerWidget)
 {
+    header_->setToolTip(tr("F6 goes from the list of commands to the editor, and on to the preview"));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(4);
     layout->addWidget(header_);
     layout->addWidget(splitter_, 1);
-    pane_->setWidgetResizable(true);
-    pane_->setAccessibleName(tr("Edit"));
-    // Tab goes straight to what the pane holds, and scrolls it.
-    pane_->setFocusPolicy(Qt::NoFocus);
-    pane_->setWidget(make_sections());
     pane_->hide();
     splitter_->addWidget(pane_);
     splitter_->addWidget(preview_);
@@ -43,23 +38,15 @@ VellumarkMainWidget::VellumarkMainWidget(AppServices& app, VellumarkController& 
     connect(header_, &DisclosureHeader::toggled, this, &VellumarkMainWidget::on_view_edit_header_toggled);
 }
 
-QWidget* VellumarkMainWidget::make_sections()
-{
-    sections_ = {new VKFilesToTextSection(app_.lists(), app_.exemplar()),
-                 new VKFoldersToTextSection(app_.lists(), app_.exemplar())};
-    auto* content = new QWidget;
-    auto* layout = new QVBoxLayout(content);
-    for (VKSectionWidget* section : sections_)
-        layout->addWidget(section);
-    layout->addStretch();
-    return content;
-}
-
 void VellumarkMainWidget::set_command(const std::shared_ptr<VellumarkCommand>& command)
 {
-    for (VKSectionWidget* section : sections_)
-        section->set_command(command);
+    pane_->set_command(command);
     preview_->show_page_for(app_.selection().selected_items()->items().size());
+}
+
+void VellumarkMainWidget::update_sections()
+{
+    pane_->update_sections();
 }
 
 void VellumarkMainWidget::set_preview_text(const QString& text)
@@ -88,14 +75,22 @@ void VellumarkMainWidget::set_expanded(bool expanded)
     on_view_edit_header_toggled(expanded);
 }
 
+/// The header stands in for the pane that it would show.
+std::vector<QWidget*> VellumarkMainWidget::focus_areas() const
+{
+    return {pane_->isHidden() ? static_cast<QWidget*>(header_) : pane_, preview_};
+}
+
 void VellumarkMainWidget::save_settings(QSettings& settings) const
 {
     settings.setValue(splitter_key, splitter_->saveState());
+    settings.setValue(pane_open_key, header_->expanded());
 }
 
 void VellumarkMainWidget::restore_settings(QSettings& settings)
 {
     splitter_->restoreState(settings.value(splitter_key).toByteArray());
+    set_expanded(settings.value(pane_open_key, false).toBool());
 }
 
 void VellumarkMainWidget::on_view_edit_header_toggled(bool expanded)
@@ -113,6 +108,6 @@ void VellumarkMainWidget::make_room_for_pane()
     if (heights[0] > pane_->minimumSizeHint().height())
         return;
     const int all = heights[0] + heights[1];
-    const int wanted = std::min(all / 2, sections_.front()->sizeHint().height() + 2 * header_->height());
+    const int wanted = std::min(all / 2, pane_->wanted_height() + 2 * header_->height());
     splitter_->setSizes({wanted, all - wanted});
 }

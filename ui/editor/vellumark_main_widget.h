@@ -3,16 +3,14 @@
 #include "ui/editor/command_main_widget_base.h"
 
 #include <memory>
-#include <vector>
 
 class AppServices;
 class ClipboardPreviewContainerWidget;
 class DisclosureHeader;
+class EditingPane;
 class GripSplitter;
-class QScrollArea;
 class VellumarkCommand;
 class VellumarkController;
-class VKSectionWidget;
 
 /// The page of a file-name command: its editing pane, hidden until the user opens it, above the preview.
 class VellumarkMainWidget final : public CommandMainWidgetBase
@@ -26,6 +24,9 @@ public:
     /// selected.
     void set_command(const std::shared_ptr<VellumarkCommand>& command);
 
+    /// Reads anew what a section shows of the others' fields.
+    void update_sections();
+
     void set_preview_text(const QString& text);
     void show_preview_updating();
     void show_preview_failure(const QString& reason);
@@ -34,6 +35,7 @@ public:
     /// Shows or hides the editing pane and turns the header's triangle.
     void set_expanded(bool expanded);
 
+    std::vector<QWidget*> focus_areas() const override;
     void save_settings(QSettings& settings) const override;
     void restore_settings(QSettings& settings) override;
 
@@ -41,13 +43,11 @@ private slots:
     void on_view_edit_header_toggled(bool expanded);
 
 private:
-    QWidget* make_sections();
     void make_room_for_pane();
 
     AppServices& app_;
     DisclosureHeader* header_ = nullptr;
     GripSplitter* splitter_ = nullptr;
-    QScrollArea* pane_ = nullptr;
-    std::vector<VKSectionWidget*> sections_; ///< in the order shown
+    EditingPane* pane_ = nullptr;
     ClipboardPreviewContainerWidget* preview_ = nullptr;
 };

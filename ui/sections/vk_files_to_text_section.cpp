@@ -14,7 +14,7 @@ const std::vector<Type> palette_types{Type::Text, Type::Name,     Type::Path,   
 }
 
 VKFilesToTextSection::VKFilesToTextSection(CommandLists& lists, ExemplarItemProvider& exemplar, QWidget* parent)
-    : VKSectionWidget(parent),
+    : VKSectionWidget(lists, parent),
       parts_(new ItemPartsContainerWidget(palette_types, VellumarkCommand::Template::Files, lists, exemplar))
 {
     make_section_layout()->addWidget(parts_);

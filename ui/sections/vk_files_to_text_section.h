@@ -2,7 +2,6 @@
 
 #include "ui/sections/vk_section_widget.h"
 
-class CommandLists;
 class ExemplarItemProvider;
 class ItemPartsContainerWidget;
 

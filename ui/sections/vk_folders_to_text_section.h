@@ -2,12 +2,14 @@
 
 #include "ui/sections/vk_section_widget.h"
 
-class CommandLists;
 class ExemplarItemProvider;
 class ItemPartsContainerWidget;
 class QCheckBox;
+class QSpinBox;
+class QVBoxLayout;
 
-/// The text of each folder: the files' one, or one of its own.
+/// The text of each folder: one of its own, or that of files. In the latter case the files that lie in the folders
+/// can take their place.
 class VKFoldersToTextSection final : public VKSectionWidget
 {
     Q_OBJECT
@@ -23,10 +25,22 @@ protected:
 
 private slots:
     void same_as_files_state_changed(Qt::CheckState state);
+    void add_files_from_folders_state_changed(Qt::CheckState state);
+    void limit_depth_state_changed(Qt::CheckState state);
+    void max_folder_depth_changed(int value);
 
 private:
-    CommandLists& lists_;
+    QWidget* make_own_template();
+    QWidget* make_added_files();
+    QWidget* make_depth_row();
+    void connect_all();
+
     QCheckBox* same_as_files_ = nullptr;
     QWidget* own_template_ = nullptr;
     ItemPartsContainerWidget* parts_ = nullptr;
+    QWidget* added_files_ = nullptr;
+    QCheckBox* add_files_ = nullptr;
+    QWidget* depth_row_ = nullptr;
+    QCheckBox* limit_depth_ = nullptr;
+    QSpinBox* depth_ = nullptr;
 };

@@ -7,12 +7,28 @@
 
 #include <QPaintEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QVBoxLayout>
+
+VKSectionWidget::VKSectionWidget(CommandLists& lists, QWidget* parent)
+    : ExpandableContainerWidget(parent), lists_(lists)
+{}
 
 void VKSectionWidget::set_command(std::shared_ptr<VellumarkCommand> command)
 {
     command_ = std::move(command);
-    load();
+    {
+        const QScopedValueRollback guard(loading_, true);
+        load();
+    }
+    // Once the layouts have taken in what shows now.
+    QMetaObject::invokeMethod(this, &VKSectionWidget::animate_to_new_height, Qt::QueuedConnection);
+}
+
+void VKSectionWidget::text_edit_size_changed()
+{
+    content()->layout()->invalidate();
+    take_content_height();
 }
 
 QVBoxLayout* VKSectionWidget::make_section_layout()

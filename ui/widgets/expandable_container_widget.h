@@ -28,6 +28,9 @@ public slots:
     void tick();
 
 protected:
+    /// Null before the first one.
+    QWidget* content() const { return content_; }
+
     void resizeEvent(QResizeEvent* event) override;
 
 private:

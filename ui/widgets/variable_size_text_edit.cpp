@@ -66,6 +66,21 @@ void VariableSizeTextEdit::set_stored_text(const std::u16string& text)
     text_changed();
 }
 
+void VariableSizeTextEdit::follow_text(const std::u16string& text)
+{
+    if (stored_text() == text)
+        return;
+    const bool focused = hasFocus();
+    const int position = textCursor().position();
+    set_stored_text(text);
+    if (!focused)
+        return;
+    setFocus();
+    QTextCursor cursor = textCursor();
+    cursor.setPosition(std::min(position, static_cast<int>(document()->characterCount()) - 1));
+    setTextCursor(cursor);
+}
+
 std::u16string VariableSizeTextEdit::stored_text() const
 {
     return from_qstring(marked_ ? stored_text_ : plain_text(*document()));

@@ -25,6 +25,10 @@ public:
     /// Shows the text and takes the focus away; emits no textChanged.
     void set_stored_text(const std::u16string& text);
 
+    /// As `set_stored_text`, for a text that may have come by undo while the user types: the focus and the cursor
+    /// stay, and the text that is there already is left alone.
+    void follow_text(const std::u16string& text);
+
     /// What the user edits, as UTF-16 with line feeds. Unlike toPlainText it keeps no-break spaces, and it gives the
     /// stored text while marks are shown.
     std::u16string stored_text() const;
