@@ -74,9 +74,9 @@ std::vector<Field> Fields::fields() const
 
 TEST_F(Fields, EachIsOneStepThatIsSavedAndTakenBack)
 {
-    press("New");
     QUndoStack& stack = app->undo_stack();
     Command model(command());
+    ASSERT_EQ(model.max_folder_depth(), 0) << "a limit has to raise it";
     for (const Field& field : fields()) {
         const Command before(model);
         const int steps = stack.index();
@@ -88,12 +88,11 @@ TEST_F(Fields, EachIsOneStepThatIsSavedAndTakenBack)
         EXPECT_TRUE(command().has_uncommitted_changes()) << field.step;
         stack.undo();
         EXPECT_TRUE(command().equals(before)) << field.step;
-        EXPECT_EQ(command().max_folder_depth(), before.max_folder_depth()) << field.step;
         stack.redo();
         EXPECT_EQ(stack.count(), steps + 1) << field.step << ": showing it is no edit";
         EXPECT_EQ(command().to_json(), model.to_json()) << field.step;
         press("Save");
-        EXPECT_EQ(commands_file::load().menu.at(1)->to_json(), model.to_json()) << field.step;
+        EXPECT_EQ(commands_file::load().menu.at(0)->to_json(), model.to_json()) << field.step;
         EXPECT_FALSE(button("Save")) << field.step;
     }
 }

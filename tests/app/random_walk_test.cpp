@@ -131,9 +131,9 @@ void RandomWalk::take_step()
     } else if (choice < 25 && stack.canRedo()) {
         stack.redo();
         ++now_;
-    } else if (choice < 40 || !is_command_shown()) {
+    } else if (choice < 33 || !is_command_shown()) {
         edit_list();
-    } else if (choice < 55) {
+    } else if (choice < 45) {
         edit_text();
     } else if (choice < 70) {
         edit_box();
@@ -244,7 +244,7 @@ void RandomWalk::edit_list()
     const auto place = row + 1;
     switch (below(6)) {
     case 0:
-        if (shown.commands().size() > 8)
+        if (shown.commands().size() > 4)
             return;
         press("New");
         follow("new").insert(history_[now_].lists[static_cast<std::size_t>(active())].begin() + place,
