@@ -9,6 +9,8 @@
 #include "ui/editor/vellumark_controller.h"
 #include "ui/text.h"
 
+#include <QApplication>
+#include <QKeyEvent>
 #include <QSettings>
 
 namespace {
@@ -61,6 +63,12 @@ void AppWindow::type(const std::u16string& separator)
 {
     dynamic_cast<VellumarkCommand&>(*app_->menu_list().current_command()).set_separator(separator);
     dynamic_cast<VellumarkController&>(*app_->current_editor()).update_after_curr_command_changed();
+}
+
+void AppWindow::press(QWidget& widget, Qt::Key key, const QString& text)
+{
+    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, text);
+    QApplication::sendEvent(&widget, &event);
 }
 
 void AppWindow::wait_for_text()

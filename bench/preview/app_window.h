@@ -27,6 +27,8 @@ public:
     void select(const std::vector<std::u16string>& paths);
     /// Changes the command's separator, as each key does in its box.
     void type(const std::u16string& separator);
+    /// A key typed into a widget of the window.
+    static void press(QWidget& widget, Qt::Key key, const QString& text = {});
     /// Runs the event loop until the text that is being made is painted.
     void wait_for_text();
 

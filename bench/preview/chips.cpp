@@ -7,10 +7,8 @@
 #include "ui/parts/item_parts_widget.h"
 #include "ui/widgets/variable_size_text_edit.h"
 
-#include <QApplication>
 #include <QElapsedTimer>
 #include <QImage>
-#include <QKeyEvent>
 
 #include <algorithm>
 #include <vector>
@@ -63,12 +61,6 @@ double painting(ItemPartsWidget& row)
     return median(times);
 }
 
-void press(QWidget& widget, Qt::Key key, const QString& text)
-{
-    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, text);
-    QApplication::sendEvent(&widget, &event);
-}
-
 VariableSizeTextEdit* visible_text_edit(const QWidget& window)
 {
     const auto edits = window.findChildren<VariableSizeTextEdit*>();
@@ -86,7 +78,7 @@ void measure_typing(Report& report, AppWindow& window, const char* name, Variabl
     for (int stroke = 0; stroke < 30; ++stroke) {
         QElapsedTimer time;
         time.start();
-        press(edit, Qt::Key_Y, QStringLiteral("y"));
+        AppWindow::press(edit, Qt::Key_Y, QStringLiteral("y"));
         keys.push_back(milliseconds(time));
         window.wait_for_text();
         texts.push_back(milliseconds(time));
@@ -105,7 +97,7 @@ void measure_row(Report& report, AppWindow& window)
     run_until([&] { return row.width() >= row.sizeHint().width(); });
     report.add(scenario, "painting all chips, median", painting(row), paint_target);
     row.setFocus(Qt::BacktabFocusReason);
-    press(row, Qt::Key_Home, {});
+    AppWindow::press(row, Qt::Key_Home);
     run_until([&] { return visible_text_edit(window.app()) != nullptr; });
 }
 

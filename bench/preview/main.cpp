@@ -8,6 +8,7 @@ int main(int argc, char* argv[])
     const QApplication application(argc, argv);
     Report report;
     measure_key_strokes(report);
+    measure_pane(report);
     measure_chips(report);
     measure_big_texts(report);
     measure_selections(report);

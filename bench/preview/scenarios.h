@@ -15,5 +15,8 @@ void measure_selections(Report& report);
 /// What a run costs more when somebody looks at its progress.
 void measure_progress(Report& report);
 
+/// The editing pane of a command with 50 chips, beside 100 presets: other rows chosen, and typed into its fields.
+void measure_pane(Report& report);
+
 /// A row of 300 chips: painted, and typed into one of its text parts.
 void measure_chips(Report& report);

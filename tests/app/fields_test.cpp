@@ -49,7 +49,8 @@ std::vector<Field> Fields::fields() const
     return {
         text("Items Separator", "Items Separator", "Change Separator Text",
              [](Command& model) { model.set_separator(u"\t\n"); }),
-        text("Additional Text", "At Start:", "Change Start Text", [](Command& model) { model.set_start_text(u"\t\n"); }),
+        text("Additional Text", "At Start:", "Change Start Text",
+             [](Command& model) { model.set_start_text(u"\t\n"); }),
         text("Additional Text", "At End:", "Change End Text", [](Command& model) { model.set_end_text(u"\t\n"); }),
         check("Additional Text", "Don't Add If Only One Item Selected",
               "Change State of \"Don't add start & end text if only one item selected\" Flag",

@@ -26,7 +26,7 @@ public:
 /// What was before or after a step, all of it by value.
 struct Snapshot {
     std::array<CommandList, 2> lists;
-    std::string step;                     ///< that led here
+    std::string step;                      ///< that led here
     const MVCommandBase* edited = nullptr; ///< by that step
 
     Snapshot deep_copy() const
@@ -225,8 +225,8 @@ void RandomWalk::edit_parts()
     const int steps = app->undo_stack().index();
     const auto before = app->undo_stack().undoText();
     row.setFocus(Qt::TabFocusReason);
-    const std::vector<Qt::Key> keys{Qt::Key_Space, Qt::Key_Space, Qt::Key_Tab, Qt::Key_Left, Qt::Key_Right,
-                                    Qt::Key_Home,  Qt::Key_Delete};
+    const std::vector<Qt::Key> keys{Qt::Key_Space, Qt::Key_Space, Qt::Key_Tab,   Qt::Key_Left,
+                                    Qt::Key_Right, Qt::Key_Home,  Qt::Key_Delete};
     QTest::keyClick(&row, keys[static_cast<std::size_t>(below(static_cast<int>(keys.size())))],
                     below(3) == 0 ? Qt::ControlModifier : Qt::NoModifier);
     if (app->undo_stack().index() == steps)
