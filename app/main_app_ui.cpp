@@ -6,6 +6,7 @@
 #include "ui/dialogs/no_commands_widget.h"
 #include "ui/editor/command_controller_base.h"
 #include "ui/editor/command_main_widget_base.h"
+#include "ui/filters/vk_filter_widget_base.h"
 #include "ui/lists/commands_list_controller.h"
 #include "ui/lists/commands_list_widget.h"
 #include "ui/lists/commands_table_view.h"
@@ -182,6 +183,8 @@ void MainAppUi::finish_edits()
 {
     for (const CommandsListWidget* list : findChildren<CommandsListWidget*>())
         list->view().finish_edit();
+    for (VKFilterWidgetBase* filter : findChildren<VKFilterWidgetBase*>())
+        filter->finish_edit();
 }
 
 void MainAppUi::save_settings(QSettings& settings) const

@@ -49,7 +49,7 @@ public:
     /// The list of a tab that there is.
     static CommandsListController& list_of_tab(CommandLists& lists, int tab);
 
-    /// Takes over what is typed into a name that is being edited in a list.
+    /// Takes over what is typed into a name that is being edited in a list, and into a filter's pattern.
     void finish_edits();
 
     /// The splitter, the tab and what the editors' pages keep.

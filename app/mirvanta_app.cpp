@@ -9,9 +9,12 @@
 #include "app/window_layout.h"
 #include "app/window_state.h"
 #include "engine/commands/vellumark_command.h"
+#include "store/commands_merge.h"
 #include "ui/dialogs/about_dlg.h"
 #include "ui/editor/command_controller_base.h"
 #include "ui/lists/commands_list_model.h"
+#include "ui/presets/filter_presets_dialog.h"
+#include "ui/presets/undo_presets_change.h"
 #include "ui/product.h"
 
 #include <QCoreApplication>
@@ -73,6 +76,7 @@ void MirvantaApp::connect_all()
     connect(&stored_flow_, &StoredFlow::loaded, this, &MirvantaApp::select_loaded);
     connect(&presets_, &Presets::changed, this, &MirvantaApp::refresh_save_and_delete);
     connect(&editors_, &CommandEditors::current_command_changed, this, &MirvantaApp::current_command_index_changed);
+    connect(tool_row_, &ToolRow::step_requested, ui_.get(), &MainAppUi::finish_edits);
     connect(tool_row_, &ToolRow::about_requested, this, &MirvantaApp::on_about);
     connect(ui_.get(), &MainAppUi::commands_list_changed, this, &MirvantaApp::refresh_save_and_delete);
     connect(&lists_, &CommandLists::active_list_changed, this, &MirvantaApp::show_active_list);
@@ -134,6 +138,31 @@ void MirvantaApp::on_help()
                                        .arg(QLatin1StringView(product::web_site))));
 }
 
+void MirvantaApp::on_filters()
+{
+    // A screen reader presses buttons behind a dialog as well.
+    if (auto* open = findChild<FilterPresetsDialog*>()) {
+        open->raise();
+        return;
+    }
+    ui_->finish_edits();
+    auto* dialog = new FilterPresetsDialog(presets_.working(), this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this,
+            [this, dialog, base = presets_.working()] { take_presets(base, dialog->presets()); });
+    dialog->open();
+}
+
+void MirvantaApp::take_presets(const Presets::List& base, const Presets::List& edited)
+{
+    // Another program's may have come in since the dialog was opened.
+    const Presets::List& now = presets_.working();
+    Presets::List presets =
+        now == base ? edited : merge_commands({{}, {}, base}, {{}, {}, edited}, {{}, {}, now}).presets;
+    if (presets != now)
+        undo_stack().push(new UndoPresetsChange(lists_, presets_, std::move(presets), tr("Change Filter Presets")));
+}
+
 void MirvantaApp::on_context_menu_selected(int command_index, const QStringList& paths)
 {
     setWindowState(windowState() & ~Qt::WindowMinimized);
@@ -192,9 +221,16 @@ bool MirvantaApp::show_current_command()
 
 void MirvantaApp::step_ended(const WrittenCommands& written)
 {
+    const CommandList updated = stored_.update_followers();
+    for (CommandsListController* list : {&menu_list(), &library_list()})
+        for (const auto& command : updated)
+            list->command_changed(*command);
+    const auto is_among = [this](const auto& commands) {
+        return std::ranges::find(commands, active_list().current_command()) != commands.end();
+    };
     if (show_current_command())
         ok_holds_ = false; // after a merge with another window's, say
-    else if (std::ranges::find(written, active_list().current_command()) != written.end())
+    else if (is_among(written) || is_among(updated))
         editors_.refresh();
     show_save_and_delete();
 }

@@ -59,6 +59,9 @@ public:
 
     void duplicate_command() override;
     void reset_stored_commands() override;
+
+    void manage_presets() override { on_filters(); }
+
     void close_with_accept() override;
 
     /// However the dialog is left, the window's state is kept.
@@ -74,6 +77,8 @@ public slots:
     /// Closes the dialog. Nothing is saved, nothing is asked.
     void on_cancel();
     void on_help();
+    /// Lets the user edit the presets; what comes of it is one step of undo.
+    void on_filters();
     /// A selection has come: shows the window, tells the current editor, and takes the selection once its paths have
     /// answered or had their time and nobody reads the old one. `command_index` is a row of the menu list, negative
     /// for none.
@@ -104,6 +109,7 @@ private:
     void show_active_list();
     /// False when an editor shows it already.
     bool show_current_command();
+    void take_presets(const Presets::List& base, const Presets::List& edited);
     void step_ended(const WrittenCommands& written);
     /// While steps of undo are running this waits for their end, for it takes a look at every command.
     void refresh_save_and_delete();

@@ -8,14 +8,18 @@
 #include "ui/lists/commands_list_model.h"
 #include "ui/lists/undo_move_command_between_lists.h"
 #include "ui/presets/presets.h"
+#include "ui/presets/undo_presets_change.h"
 
 #include <QCoreApplication>
+#include <QScopeGuard>
 
 namespace {
 
-/// What was read, as the saved forms of what the lists show.
+/// What was read, as the saved forms of what the lists show. A filter goes by its preset, whatever was read of it.
 StoredCommands saved_forms(const StoredCommands& read, CommandLists& lists)
 {
+    for (const CommandList* list : {&read.menu, &read.library})
+        preset_followers::update(*list, read.presets);
     return {.menu = written_forms::saved_forms(read.menu, lists.menu().commands()),
             .library = written_forms::saved_forms(read.library, lists.library().commands()),
             .presets = read.presets};
@@ -26,6 +30,8 @@ StoredCommands saved_forms(const StoredCommands& read, CommandLists& lists)
 void StoredState::fill(commands_file::Loaded loaded)
 {
     set_known(loaded);
+    for (const CommandList* list : {&loaded.commands.menu, &loaded.commands.library})
+        preset_followers::update(*list, loaded.commands.presets);
     lists_.menu().model().set_saved_commands(std::move(loaded.commands.menu));
     lists_.library().model().set_saved_commands(std::move(loaded.commands.library));
     presets_.set_both(std::move(loaded.commands.presets));
@@ -118,11 +124,26 @@ void StoredState::push_lists(const StoredCommands& commands, const StoredCommand
     // Which commands are unsaved, or of the last session, may be another matter though the lists are the same.
     menu.model().refresh_rows();
     library.model().refresh_rows();
-    if (commands.menu != menu.commands() || commands.library != library.commands())
-        lists_.steps().stack().push(
-            new UndoMoveCommandBetweenLists(lists_, renewed_list::state_of(commands.menu, menu),
-                                            renewed_list::state_of(commands.library, library), text));
     // Their signal has Save looked at as well.
     presets_.set_saved(saved.presets);
-    presets_.set_working(commands.presets);
+    const bool other_lists = commands.menu != menu.commands() || commands.library != library.commands();
+    const bool other_presets = commands.presets != presets_.working();
+    if (!other_lists && !other_presets)
+        return;
+    QUndoStack& stack = lists_.steps().stack();
+    stack.beginMacro(text);
+    const auto end = qScopeGuard([&stack] { stack.endMacro(); });
+    if (other_lists)
+        stack.push(new UndoMoveCommandBetweenLists(lists_, renewed_list::state_of(commands.menu, menu),
+                                                   renewed_list::state_of(commands.library, library), {}));
+    if (other_presets)
+        stack.push(new UndoPresetsChange(lists_, presets_, commands.presets, {}));
+}
+
+CommandList StoredState::update_followers()
+{
+    CommandList changed = preset_followers::update(lists_.menu().commands(), presets_.working());
+    for (auto& command : preset_followers::update(lists_.library().commands(), presets_.working()))
+        changed.push_back(std::move(command));
+    return changed;
 }

@@ -49,12 +49,15 @@ public:
     bool is_news(const commands_file::Loaded& loaded) const;
 
     /// Replaces lists without changes of their own, as one step of undo, by what another program has saved, and the
-    /// presets, which that step doesn't take back. Commands of which the file says the same stay as they are.
+    /// presets. Commands of which the file says the same stay as they are.
     void take_over(const commands_file::Loaded& loaded);
 
-    /// Merges what another program has saved into the lists, as one step of undo, and into the presets, which that
-    /// step doesn't take back.
+    /// Merges what another program has saved into the lists and the presets, as one step of undo.
     void merge(const commands_file::Loaded& loaded);
+
+    /// Brings the commands of both lists up to date against the presets, which may be others than those that a list
+    /// or a command comes from; returns those that it changed.
+    CommandList update_followers();
 
 private:
     void set_known(const commands_file::Loaded& loaded);

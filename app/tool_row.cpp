@@ -1,5 +1,6 @@
 #include "app/tool_row.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QHBoxLayout>
 #include <QToolBar>
@@ -29,7 +30,11 @@ ToolRow::ToolRow(QUndoStack& stack, QWidget* parent)
 
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(make_bar(tr("Undo and redo"), {undo_, redo_}));
+    QToolBar* steps = make_bar(tr("Undo and redo"), {undo_, redo_});
+    for (QAction* action : {undo_, redo_})
+        connect(qobject_cast<QAbstractButton*>(steps->widgetForAction(action)), &QAbstractButton::pressed, this,
+                &ToolRow::step_requested);
+    layout->addWidget(steps);
     layout->addStretch();
     layout->addWidget(make_bar(tr("About this program"), {about}));
 }

@@ -18,6 +18,8 @@ public:
     void redo();
 
 signals:
+    /// The mouse or a screen reader presses undo or redo, which takes no focus and comes next.
+    void step_requested();
     /// "About" was chosen.
     void about_requested();
 

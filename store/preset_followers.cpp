@@ -13,27 +13,33 @@ VellumarkCommand* as_follower(MVCommandBase& entry)
     return command && !command->file_filter_preset_uuid().empty() ? command : nullptr;
 }
 
-void update_one(VellumarkCommand& command, const std::vector<ExtensionsPreset>& presets)
+/// Whether anything changed.
+bool update_one(VellumarkCommand& command, const std::vector<ExtensionsPreset>& presets)
 {
     const auto found = std::ranges::find(presets, command.file_filter_preset_uuid(), &ExtensionsPreset::uuid);
     if (found == presets.end()) {
         command.set_file_filter_preset_uuid({});
-        return;
+        return true;
     }
+    if (command.file_filter().filter_pattern() == found->extensions())
+        return false;
     ItemFilter filter = command.file_filter();
     filter.set_filter_pattern(found->extensions());
     command.set_file_filter(std::move(filter));
+    return true;
 }
 
 }
 
 namespace preset_followers {
 
-void update(const CommandList& list, const std::vector<ExtensionsPreset>& presets)
+CommandList update(const CommandList& list, const std::vector<ExtensionsPreset>& presets)
 {
+    CommandList changed;
     for (const auto& entry : list)
-        if (VellumarkCommand* command = as_follower(*entry))
-            update_one(*command, presets);
+        if (VellumarkCommand* command = as_follower(*entry); command && update_one(*command, presets))
+            changed.push_back(entry);
+    return changed;
 }
 
 CommandList updated(CommandList list, const std::vector<ExtensionsPreset>& presets)

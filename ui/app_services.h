@@ -29,6 +29,9 @@ public:
     /// Replaces the menu list by the default commands, as one undo step; a failure is shown to the user.
     virtual void reset_stored_commands() = 0;
 
+    /// Lets the user edit the presets.
+    virtual void manage_presets() = 0;
+
     /// Ends the dialog as after a finished command. Nothing is asked or saved but the window's state.
     virtual void close_with_accept() = 0;
 

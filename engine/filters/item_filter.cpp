@@ -7,7 +7,6 @@
 #include "engine/text/letters.h"
 #include "engine/text/utf.h"
 
-#include <algorithm>
 #include <stdexcept>
 
 namespace json = boost::json;
@@ -16,10 +15,13 @@ namespace {
 
 constexpr std::u16string_view never_in_extensions = u"\"*/:<>?|\\", never_in_wildcards = u"\"/:<>|\\";
 
-bool is_free_of(std::u16string_view pattern, std::u16string_view forbidden)
+std::u16string distinct_of(std::u16string_view pattern, std::u16string_view forbidden)
 {
-    return std::ranges::none_of(pattern,
-                                [&](char16_t unit) { return unit < 32 || forbidden.find(unit) != forbidden.npos; });
+    std::u16string found;
+    for (const char16_t unit : pattern)
+        if ((unit < 32 || forbidden.find(unit) != forbidden.npos) && found.find(unit) == found.npos)
+            found += unit;
+    return found;
 }
 
 }
@@ -86,14 +88,24 @@ bool ItemFilter::passes(std::u16string_view name) const
     return pattern_.empty() || matches(name) == (action_ == Action::Include);
 }
 
-bool ItemFilter::is_pattern_valid() const
+std::u16string ItemFilter::invalid_characters() const
 {
     switch (mode_) {
-    case Mode::Extensions: return is_free_of(pattern_, never_in_extensions);
-    case Mode::Wildcard: return is_free_of(pattern_, never_in_wildcards);
-    case Mode::Regex: return pattern_.empty() || expression().is_valid();
+    case Mode::Extensions: return distinct_of(pattern_, never_in_extensions);
+    case Mode::Wildcard: return distinct_of(pattern_, never_in_wildcards);
+    case Mode::Regex: break;
     }
-    return false;
+    return {};
+}
+
+std::optional<std::size_t> ItemFilter::error_offset() const
+{
+    return mode_ == Mode::Regex && !pattern_.empty() ? expression().error_offset() : std::nullopt;
+}
+
+bool ItemFilter::is_pattern_valid() const
+{
+    return invalid_characters().empty() && !error_offset();
 }
 
 bool ItemFilter::operator==(const ItemFilter& other) const

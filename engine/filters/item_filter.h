@@ -5,8 +5,10 @@
 #include <boost/json.hpp>
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -47,6 +49,14 @@ public:
     bool passes(std::u16string_view name) const;
 
     bool is_pattern_valid() const;
+
+    /// Those of the pattern that its mode forbids, each once, in the order of their first appearance. None of a
+    /// regular expression.
+    std::u16string invalid_characters() const;
+
+    /// Where a regular expression goes wrong, in UTF-16 units from its begin; 0 when it is too large as a whole.
+    /// Empty for a valid one and in the other modes.
+    std::optional<std::size_t> error_offset() const;
 
     /// Mode, action and pattern.
     bool operator==(const ItemFilter& other) const;

@@ -36,6 +36,8 @@ public:
 
     void reset_stored_commands() override { calls += "reset "; }
 
+    void manage_presets() override { calls += "presets "; }
+
     void close_with_accept() override { calls += "accept "; }
 
     std::shared_ptr<MVItemsSet> items = std::make_shared<MVItemsSet>();

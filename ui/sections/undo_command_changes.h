@@ -41,6 +41,38 @@ inline void set_depth_limit(VellumarkCommand& command, const DepthLimit& limit)
     command.set_limit_folder_depth(limit.is_on);
 }
 
+/// All that a step changes of one filter.
+struct FilterFields {
+    bool is_enabled = false;
+    ItemFilter filter;
+    std::u16string preset_uuid = {}; ///< that the file filter follows; empty for none, and for folders
+
+    bool operator==(const FilterFields&) const = default;
+};
+
+inline FilterFields file_filter(const VellumarkCommand& command)
+{
+    return {command.file_filter_enabled(), command.file_filter(), command.file_filter_preset_uuid()};
+}
+
+inline void set_file_filter(VellumarkCommand& command, const FilterFields& fields)
+{
+    command.set_file_filter_enabled(fields.is_enabled);
+    command.set_file_filter(fields.filter);
+    command.set_file_filter_preset_uuid(fields.preset_uuid);
+}
+
+inline FilterFields folder_filter(const VellumarkCommand& command)
+{
+    return {command.folder_filter_enabled(), command.folder_filter()};
+}
+
+inline void set_folder_filter(VellumarkCommand& command, const FilterFields& fields)
+{
+    command.set_folder_filter_enabled(fields.is_enabled);
+    command.set_folder_filter(fields.filter);
+}
+
 template <AdditionalText which>
 const std::u16string& additional_text(const VellumarkCommand& command)
 {
@@ -75,3 +107,5 @@ using UndoNoStartEndTextIfOneItemChange = UndoFieldChange<&VellumarkCommand::no_
                                                           &VellumarkCommand::set_no_start_end_text_if_one_item>;
 using UndoSortOrderChange = UndoFieldChange<&VellumarkCommand::sort_order, &VellumarkCommand::set_sort_order>;
 using UndoContextMenuOptions = UndoFieldChange<&command_fields::menu_rule, &command_fields::set_menu_rule>;
+using UndoFileFilterChange = UndoFieldChange<&command_fields::file_filter, &command_fields::set_file_filter>;
+using UndoFolderFilterChange = UndoFieldChange<&command_fields::folder_filter, &command_fields::set_folder_filter>;
