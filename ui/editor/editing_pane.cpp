@@ -12,14 +12,16 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
-EditingPane::EditingPane(AppServices& app, QWidget* parent)
-    : QScrollArea(parent), sections_{new VKFilesToTextSection(app.lists(), app.exemplar()),
-                                     new VKFoldersToTextSection(app.lists(), app.exemplar()),
-                                     new VKItemSeparatorSection(app.lists()),
-                                     new VKAdditionalTextSection(app.lists()),
-                                     new VKSortOptionsSection(app.lists()),
-                                     new VKContextMenuOptionsSection(app.lists())}
+EditingPane::EditingPane(AppServices& app, QWidget* parent) : QScrollArea(parent)
 {
+    auto* files = new VKFilesToTextSection(app.lists(), app.presets(), app.exemplar());
+    connect(files, &VKFilesToTextSection::manage_presets_requested, this, [&app] { app.manage_presets(); });
+    sections_ = {files,
+                 new VKFoldersToTextSection(app.lists(), app.exemplar()),
+                 new VKItemSeparatorSection(app.lists()),
+                 new VKAdditionalTextSection(app.lists()),
+                 new VKSortOptionsSection(app.lists()),
+                 new VKContextMenuOptionsSection(app.lists())};
     setWidgetResizable(true);
     setAccessibleName(tr("Edit"));
     // Tab goes straight to what the pane holds, and scrolls it.

@@ -1,5 +1,6 @@
 #include "ui/sections/vk_files_to_text_section.h"
 
+#include "ui/filters/vk_file_filter_widget.h"
 #include "ui/parts/item_parts_container_widget.h"
 
 #include <QVBoxLayout>
@@ -13,12 +14,18 @@ const std::vector<Type> palette_types{Type::Text, Type::Name,     Type::Path,   
 
 }
 
-VKFilesToTextSection::VKFilesToTextSection(CommandLists& lists, ExemplarItemProvider& exemplar, QWidget* parent)
-    : VKSectionWidget(lists, parent),
+VKFilesToTextSection::VKFilesToTextSection(CommandLists& lists, Presets& presets, ExemplarItemProvider& exemplar,
+                                           QWidget* parent)
+    : VKSectionWidget(lists, parent), filter_(new VKFileFilterWidget(lists, presets)),
       parts_(new ItemPartsContainerWidget(palette_types, VellumarkCommand::Template::Files, lists, exemplar))
 {
-    make_section_layout()->addWidget(parts_);
+    QVBoxLayout* layout = make_section_layout();
+    layout->addWidget(filter_);
+    layout->addWidget(parts_);
     take_content_height();
+    connect(filter_, &VKFileFilterWidget::manage_presets_requested, this,
+            &VKFilesToTextSection::manage_presets_requested);
+    connect(filter_, &VKFilterWidgetBase::height_changed, this, &ExpandableContainerWidget::animate_to_new_height);
     connect(parts_, &ItemPartsContainerWidget::controls_height_changed, this,
             &ExpandableContainerWidget::animate_to_new_height);
 }
@@ -26,4 +33,5 @@ VKFilesToTextSection::VKFilesToTextSection(CommandLists& lists, ExemplarItemProv
 void VKFilesToTextSection::load()
 {
     parts_->show_command(command());
+    filter_->show_command(command());
 }

@@ -4,6 +4,8 @@
 
 class ExemplarItemProvider;
 class ItemPartsContainerWidget;
+class Presets;
+class VKFileFilterWidget;
 
 /// The text of each file, and of each folder as long as folders have none of their own.
 class VKFilesToTextSection final : public VKSectionWidget
@@ -11,14 +13,20 @@ class VKFilesToTextSection final : public VKSectionWidget
     Q_OBJECT
 
 public:
-    /// `lists` and `exemplar` outlive the section.
-    VKFilesToTextSection(CommandLists& lists, ExemplarItemProvider& exemplar, QWidget* parent = nullptr);
+    /// All three outlive the section.
+    VKFilesToTextSection(CommandLists& lists, Presets& presets, ExemplarItemProvider& exemplar,
+                         QWidget* parent = nullptr);
 
     QString section_title() const override { return tr("Files To Text"); }
+
+signals:
+    /// The user wants to edit the presets.
+    void manage_presets_requested();
 
 protected:
     void load() override;
 
 private:
+    VKFileFilterWidget* filter_ = nullptr;
     ItemPartsContainerWidget* parts_ = nullptr;
 };

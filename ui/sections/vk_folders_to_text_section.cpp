@@ -1,5 +1,6 @@
 #include "ui/sections/vk_folders_to_text_section.h"
 
+#include "ui/filters/vk_folder_filter_widget.h"
 #include "ui/parts/item_parts_container_widget.h"
 #include "ui/sections/undo_command_changes.h"
 #include "ui/widgets/field_manners.h"
@@ -39,6 +40,7 @@ Layout* bare_layout(QWidget* panel)
 
 VKFoldersToTextSection::VKFoldersToTextSection(CommandLists& lists, ExemplarItemProvider& exemplar, QWidget* parent)
     : VKSectionWidget(lists, parent), same_as_files_(new QCheckBox(tr("Same As Files"))),
+      filter_(new VKFolderFilterWidget(lists)), own_home_(new QVBoxLayout), added_home_(new QVBoxLayout),
       parts_(new ItemPartsContainerWidget(palette_types, VellumarkCommand::Template::Folders, lists, exemplar))
 {
     constexpr int around_line = 8;
@@ -57,6 +59,8 @@ QWidget* VKFoldersToTextSection::make_own_template()
 {
     auto* panel = new QWidget;
     auto* layout = bare_layout<QVBoxLayout>(panel);
+    layout->addLayout(own_home_);
+    own_home_->addWidget(filter_);
     layout->addWidget(parts_);
     return panel;
 }
@@ -67,6 +71,7 @@ QWidget* VKFoldersToTextSection::make_added_files()
     auto* layout = bare_layout<QVBoxLayout>(panel);
     layout->addWidget(add_files_ = new QCheckBox(tr("Add Files From Folders")));
     layout->addWidget(depth_row_ = make_depth_row());
+    layout->addLayout(added_home_);
     panel->hide();
     panel->setEnabled(false);
     return panel;
@@ -98,6 +103,7 @@ void VKFoldersToTextSection::connect_all()
     connect_box(add_files_, &VKFoldersToTextSection::add_files_from_folders_state_changed);
     connect_box(limit_depth_, &VKFoldersToTextSection::limit_depth_state_changed);
     connect(depth_, &QSpinBox::valueChanged, this, &VKFoldersToTextSection::max_folder_depth_changed);
+    connect(filter_, &VKFilterWidgetBase::height_changed, this, &ExpandableContainerWidget::animate_to_new_height);
     connect(parts_, &ItemPartsContainerWidget::controls_height_changed, this,
             &ExpandableContainerWidget::animate_to_new_height);
 }
@@ -126,6 +132,19 @@ void VKFoldersToTextSection::max_folder_depth_changed(int value)
     push<UndoMaxFolderDepthChange>(value, tr("Change Maximum Folder Depth"));
 }
 
+/// The filter selects folders that have a text of their own, or those that files are looked for in.
+void VKFoldersToTextSection::place_filter()
+{
+    const bool same = command()->same_parts_for_folders();
+    QVBoxLayout* home = same ? added_home_ : own_home_;
+    if (home->indexOf(filter_) < 0) {
+        (same ? own_home_ : added_home_)->removeWidget(filter_);
+        home->addWidget(filter_);
+        put_into_tab_order(*filter_, same ? static_cast<QWidget&>(*depth_) : *same_as_files_);
+    }
+    filter_->setVisible(!same || command()->add_files_from_folders());
+}
+
 void VKFoldersToTextSection::load()
 {
     const bool same = command()->same_parts_for_folders(), add = command()->add_files_from_folders();
@@ -138,4 +157,6 @@ void VKFoldersToTextSection::load()
     depth_row_->setEnabled(add);
     limit_depth_->setChecked(command()->limit_folder_depth());
     depth_->setValue(command()->max_folder_depth());
+    place_filter();
+    filter_->show_command(command());
 }

@@ -7,6 +7,7 @@ class ItemPartsContainerWidget;
 class QCheckBox;
 class QSpinBox;
 class QVBoxLayout;
+class VKFolderFilterWidget;
 
 /// The text of each folder: one of its own, or that of files. In the latter case the files that lie in the folders
 /// can take their place.
@@ -34,9 +35,13 @@ private:
     QWidget* make_added_files();
     QWidget* make_depth_row();
     void connect_all();
+    void place_filter();
 
     QCheckBox* same_as_files_ = nullptr;
     QWidget* own_template_ = nullptr;
+    VKFolderFilterWidget* filter_ = nullptr; ///< in one of its two homes
+    QVBoxLayout* own_home_ = nullptr;
+    QVBoxLayout* added_home_ = nullptr;
     ItemPartsContainerWidget* parts_ = nullptr;
     QWidget* added_files_ = nullptr;
     QCheckBox* add_files_ = nullptr;

@@ -3,6 +3,9 @@
 #include <QKeyEvent>
 #include <QWidget>
 
+#include <utility>
+#include <vector>
+
 namespace {
 
 /// Ignores what its condition names before the field sees it. Lives as long as the field.
@@ -50,4 +53,16 @@ void leave_wheel_to_page(QWidget& field)
 void leave_undo_to_window(QWidget& field)
 {
     new Filter(field, [](const QWidget&, QEvent& event) { return is_undo_or_redo(event); });
+}
+
+void put_into_tab_order(const QWidget& group, QWidget& before)
+{
+    // QWidget::setTabOrder leaves groups where they are that take no focus themselves.
+    std::vector<QWidget*> fields;
+    for (QWidget* widget = before.nextInFocusChain(); widget != &before; widget = widget->nextInFocusChain())
+        if (group.isAncestorOf(widget) && (widget->focusPolicy() & Qt::TabFocus) && !widget->focusProxy())
+            fields.push_back(widget);
+    QWidget* last = &before;
+    for (QWidget* field : fields)
+        QWidget::setTabOrder(std::exchange(last, field), field);
 }

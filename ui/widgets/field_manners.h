@@ -8,3 +8,6 @@ void leave_wheel_to_page(QWidget& field);
 
 /// Leaves the keys of undo to the window even where the field has an undo of its own: undo is the command stack's.
 void leave_undo_to_window(QWidget& field);
+
+/// Lets Tab come to the group's fields, in the order that they have, right behind `before`.
+void put_into_tab_order(const QWidget& group, QWidget& before);
