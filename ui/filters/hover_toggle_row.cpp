@@ -2,6 +2,7 @@
 
 #include "ui/colours.h"
 #include "ui/widgets/disclosure_triangle.h"
+#include "ui/widgets/field_manners.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -14,6 +15,7 @@ HoverToggleRow::HoverToggleRow(QWidget* parent)
 {
     setAttribute(Qt::WA_Hover);
     label_->setTextFormat(Qt::RichText);
+    align_by_layout(*label_);
     label_->setCursor(Qt::PointingHandCursor);
     // A long pattern is cut off rather than makes the window wider.
     label_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);

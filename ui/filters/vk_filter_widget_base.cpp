@@ -71,6 +71,7 @@ VKFilterWidgetBase::VKFilterWidgetBase(CommandLists& lists, std::vector<Mode> mo
     layout->addWidget(header_);
     layout->addWidget(body_);
     form_->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    form_->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
     body_->hide();
     add_type_row();
     update_header();
@@ -97,6 +98,7 @@ void VKFilterWidgetBase::add_pattern_rows(const ActionTexts& texts)
     join_line(*pattern_);
     form_->addRow(tr("Pattern:"), pattern_);
     error_->setTextFormat(Qt::PlainText);
+    align_by_layout(*error_);
     error_->setStyleSheet(QStringLiteral("color: red; font-size: 10pt;"));
     // A long one is cut off rather than makes the window wider.
     error_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);

@@ -2,6 +2,7 @@
 
 #include "ui/filters/pattern_fault.h"
 #include "ui/text.h"
+#include "ui/widgets/field_manners.h"
 
 #include <QEvent>
 #include <QGridLayout>
@@ -28,6 +29,7 @@ PresetRowWidget::PresetRowWidget(const ExtensionsPreset& preset, QWidget* parent
     delete_->setToolTip(tr("Delete preset"));
     delete_->setFixedWidth(delete_->sizeHint().height());
     error_->setTextFormat(Qt::PlainText);
+    align_by_layout(*error_);
 
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 4, 0, 4);

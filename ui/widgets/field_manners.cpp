@@ -1,6 +1,8 @@
 #include "ui/widgets/field_manners.h"
 
 #include <QKeyEvent>
+#include <QLabel>
+#include <QStyle>
 #include <QWidget>
 
 #include <utility>
@@ -48,6 +50,12 @@ void leave_wheel_to_page(QWidget& field)
     new Filter(field, [](const QWidget& watched, QEvent& event) {
         return event.type() == QEvent::Wheel && !watched.hasFocus();
     });
+}
+
+void align_by_layout(QLabel& label)
+{
+    label.setAlignment(QStyle::visualAlignment(label.layoutDirection(), Qt::AlignLeft) | Qt::AlignAbsolute |
+                       Qt::AlignVCenter);
 }
 
 void leave_undo_to_window(QWidget& field)

@@ -1,10 +1,14 @@
 #pragma once
 
+class QLabel;
 class QWidget;
 
 /// Leaves the wheel to the page around a combo box or number field as long as that doesn't have the focus, so that
 /// scrolling past changes nothing.
 void leave_wheel_to_page(QWidget& field);
+
+/// Has the label's text stand where reading begins in the label's layout, whatever language the text is in.
+void align_by_layout(QLabel& label);
 
 /// Leaves the keys of undo to the window even where the field has an undo of its own: undo is the command stack's.
 void leave_undo_to_window(QWidget& field);
