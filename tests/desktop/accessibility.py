@@ -8,18 +8,28 @@ from desktop import wait_until
 
 # What asking a node that has just gone away raises.
 GONE = (LookupError, GLib.GError)
+# They have nothing below them.
+LEAVES = (pyatspi.ROLE_LABEL, pyatspi.ROLE_PUSH_BUTTON, pyatspi.ROLE_CHECK_BOX, pyatspi.ROLE_LIST_ITEM,
+          pyatspi.ROLE_SCROLL_BAR, pyatspi.ROLE_TABLE_CELL)
 
 
-def walk(node):
-    """The node and all below it, a parent before its children. What goes away meanwhile is left out."""
-    yield node
+def matches(node, role=None, name=None, showing=True):
+    """Yields the node and those below it that have this role ("push button", "label", "text", "table cell", ...) and
+    name. What goes away meanwhile is left out, and so is what doesn't show with all below it, unless `showing` is
+    false. Each question takes a message, so that nothing is asked of what can't be meant."""
     try:
-        children = [node.getChildAtIndex(i) for i in range(node.childCount)]
+        fits = role in (None, node.getRoleName()) and name in (None, node.name)
+        is_leaf = node.getRole() in LEAVES
+        if (is_leaf and not fits) or (showing and not is_showing(node)):
+            return
+        if fits:
+            yield node
+        children = [] if is_leaf else [node.getChildAtIndex(i) for i in range(node.childCount)]
     except GONE:
         return
     for child in children:
         if child is not None:
-            yield from walk(child)
+            yield from matches(child, role, name, showing)
 
 
 def is_showing(node):
@@ -27,32 +37,28 @@ def is_showing(node):
 
 
 def find_all(root, role=None, name=None, showing=True):
-    """Nodes below `root` by role ("push button", "label", "text", "table cell", ...) and name."""
-
-    def matches(node):
-        try:
-            return (
-                (role is None or node.getRoleName() == role)
-                and (name is None or node.name == name)
-                and (not showing or is_showing(node))
-            )
-        except GONE:
-            return False
-
-    return [node for node in walk(root) if matches(node)]
+    return list(matches(root, role, name, showing))
 
 
 def find(root, role=None, name=None, showing=True):
     """The first such node, once there is one."""
 
     def search():
-        found = find_all(root, role, name, showing)
-        if not found:
+        found = next(matches(root, role, name, showing), None)
+        if found is None:
             # The library remembers what it has seen, for good where word of a change was lost.
             root.clearCache()
         return found
 
-    return wait_until(search, f"'{name}', a {role}")[0]
+    return wait_until(search, f"'{name}', a {role}")
+
+
+def find_control(root, role, label):
+    """A combo box tells its value as its name, so it is found by its label."""
+    if role != "combo box":
+        return find(root, role, label)
+    relations = find(root, "label", label).getRelationSet()
+    return next(r.getTarget(0) for r in relations if r.getRelationType() == pyatspi.RELATION_LABEL_FOR)
 
 
 def text_of(node):

@@ -66,8 +66,5 @@ class PartsEditor:
         self.program.desktop.click(*places[-1])
 
     def control(self, role, name):
-        """A control of the selected part. A combo box tells its value as its name, so it is found by its label."""
-        if role != "combo box":
-            return accessibility.find(self.program.root, role, name)
-        relations = accessibility.find(self.program.root, "label", name).getRelationSet()
-        return next(r.getTarget(0) for r in relations if r.getRelationType() == pyatspi.RELATION_LABEL_FOR)
+        """A control of the selected part."""
+        return accessibility.find_control(self.program.root, role, name)
