@@ -271,6 +271,7 @@ void MirvantaApp::select_loaded(bool usable, const std::shared_ptr<VellumarkComm
 
 void MirvantaApp::duplicate_command()
 {
+    ui_->finish_edits();
     list_edits::duplicate(*this);
 }
 
@@ -281,6 +282,8 @@ void MirvantaApp::duplicate_command_btn_pressed()
 
 void MirvantaApp::new_command_btn_pressed()
 {
+    // Keys take no focus from a field.
+    ui_->finish_edits();
     list_edits::add(*this, std::make_shared<VellumarkCommand>(), tr("New Command"));
 }
 

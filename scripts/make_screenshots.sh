@@ -19,6 +19,8 @@ main() {
     compact window-light
     compact window-dark
     compact editor-light
+    compact filter-light
+    compact presets-light
 }
 
 main

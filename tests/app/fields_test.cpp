@@ -1,9 +1,20 @@
 #include "editing_page.h"
 #include "store/commands_file.h"
+#include "ui/sections/undo_command_changes.h"
 
 namespace {
 
 using Command = VellumarkCommand;
+
+ItemFilter filter(ItemFilter::Mode mode, const char16_t* pattern,
+                  ItemFilter::Action action = ItemFilter::Action::Include)
+{
+    ItemFilter made;
+    made.set_filter_mode(mode);
+    made.set_filter_pattern(pattern);
+    made.set_filter_action(action);
+    return made;
+}
 
 struct Field {
     const char* step;
@@ -46,7 +57,31 @@ std::vector<Field> Fields::fields() const
     const char* const folders = "Folders To Text";
     const char* const menu = "Context Menu Options";
     const char* const rules = "Select when this command is shown in the context menu:";
+    const char* const file_text = "Files To Text";
     return {
+        choose(file_text, "Filter type", "Wildcard", "Change Filter Type",
+               [](Command& model) {
+                   command_fields::set_file_filter(model, {true, filter(ItemFilter::Mode::Wildcard, u""), {}});
+               }),
+        {"Change Filter Pattern", [=, this] { commit(file_text, "Pattern:", "*.j?g"); },
+         [](Command& model) { model.set_file_filter(filter(ItemFilter::Mode::Wildcard, u"*.j?g")); }},
+        {"Change Filter Action", [=, this] { control<QRadioButton>(file_text, "Exclude matching files").click(); },
+         [](Command& model) {
+             model.set_file_filter(filter(ItemFilter::Mode::Wildcard, u"*.j?g", ItemFilter::Action::Exclude));
+         }},
+        choose(file_text, "Filter type", "Extensions", "Change Filter Type",
+               [](Command& model) { model.set_file_filter({}); }),
+        choose(file_text, "Preset:", "Images", "Change Filter Preset",
+               [](Command& model) {
+                   model.set_file_filter(filter(ItemFilter::Mode::Extensions, u"jpg;png"));
+                   model.set_file_filter_preset_uuid(u"1");
+               }),
+        choose(folders, "Filter type", "Regex", "Change Filter Type",
+               [](Command& model) {
+                   command_fields::set_folder_filter(model, {true, filter(ItemFilter::Mode::Regex, u"")});
+               }),
+        {"Change Filter Pattern", [=, this] { commit(folders, "Pattern:", "^a"); },
+         [](Command& model) { model.set_folder_filter(filter(ItemFilter::Mode::Regex, u"^a")); }},
         text("Items Separator", "Items Separator", "Change Separator Text",
              [](Command& model) { model.set_separator(u"\t\n"); }),
         text("Additional Text", "At Start:", "Change Start Text",
@@ -75,6 +110,8 @@ std::vector<Field> Fields::fields() const
 
 TEST_F(Fields, EachIsOneStepThatIsSavedAndTakenBack)
 {
+    ExtensionsPreset images(boost::json::object{{"uuid", "1"}, {"name", "Images"}, {"extensions", "jpg;png"}});
+    app->presets().set_both({images});
     QUndoStack& stack = app->undo_stack();
     Command model(command());
     ASSERT_EQ(model.max_folder_depth(), 0) << "a limit has to raise it";

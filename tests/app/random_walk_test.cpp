@@ -2,9 +2,11 @@
 #include "engine/items/mv_items_set.h"
 #include "engine/parts/item_progress_sink.h"
 #include "store/commands_file.h"
+#include "store/preset_followers.h"
 #include "support/becomes.h"
 #include "ui/parts/item_parts_container_widget.h"
 #include "ui/parts/item_parts_widget.h"
+#include "ui/presets/undo_presets_change.h"
 #include "ui/preview/preview_text_edit.h"
 
 #include <random>
@@ -26,6 +28,7 @@ public:
 /// What was before or after a step, all of it by value.
 struct Snapshot {
     std::array<CommandList, 2> lists;
+    Presets::List presets;
     std::string step;                      ///< that led here
     const MVCommandBase* edited = nullptr; ///< by that step
 
@@ -92,6 +95,8 @@ private:
     void edit_text();
     void edit_box();
     void edit_choice();
+    void edit_filter();
+    void edit_presets();
     void edit_parts();
     void edit_list();
     void save();
@@ -111,7 +116,7 @@ void RandomWalk::walk(unsigned seed, int steps)
     reopen();
     app->on_context_menu_selected(-1, {path_of("b.txt", "12"), path_of("a.jpg", "1")});
     ASSERT_TRUE(becomes([&] { return app->selected_items()->items().size() == 2; }));
-    saved_ = Snapshot{{list(0).commands(), list(1).commands()}, {}, nullptr}.deep_copy();
+    saved_ = Snapshot{{list(0).commands(), list(1).commands()}, app->presets().working(), {}, nullptr}.deep_copy();
     history_ = {saved_.deep_copy()};
     now_ = 0;
     for (int step = 0; step < steps && !HasFailure(); ++step) {
@@ -137,8 +142,12 @@ void RandomWalk::take_step()
         edit_text();
     } else if (choice < 70) {
         edit_box();
-    } else if (choice < 85) {
+    } else if (choice < 80) {
         edit_choice();
+    } else if (choice < 88) {
+        edit_filter();
+    } else if (choice < 91) {
+        edit_presets();
     } else if (choice < 98) {
         edit_parts();
     } else {
@@ -214,6 +223,49 @@ void RandomWalk::edit_choice()
     }
 }
 
+/// What a filter's controls make of a command is another test's matter: here it has to come back with undo.
+void RandomWalk::edit_filter()
+{
+    const bool of_files = below(2) == 0;
+    const char* section = of_files ? "Files To Text" : "Folders To Text";
+    const int steps = app->undo_stack().index();
+    auto& line = control<QLineEdit>(section, "Pattern:");
+    if (below(3) == 0 && line.isVisibleTo(app.get())) {
+        line.setFocus();
+        QTest::keyClicks(&line, "(a*.jpg");
+        QTest::keyClick(&line, Qt::Key_Return);
+    } else if (of_files && below(3) == 0) {
+        auto& presets = control<QComboBox>(section, "Preset:");
+        if (presets.isVisibleTo(app.get()))
+            presets.setCurrentIndex(below(presets.count()));
+    } else {
+        auto& types = control<QComboBox>(section, "Filter type");
+        types.setCurrentIndex(below(types.count()));
+    }
+    if (app->undo_stack().index() != steps)
+        expect_edit("filter", [this](Command& model) {
+            command_fields::set_file_filter(model, command_fields::file_filter(command()));
+            command_fields::set_folder_filter(model, command_fields::folder_filter(command()));
+        });
+}
+
+/// Adds a preset, or edits or deletes one that commands may follow.
+void RandomWalk::edit_presets()
+{
+    Presets::List presets = app->presets().working();
+    if (presets.empty() || below(3) == 0)
+        presets.emplace_back().make_new_uuid();
+    else if (below(2) == 0)
+        presets.erase(presets.begin() + below(static_cast<int>(presets.size())));
+    else
+        presets[0].set_extensions(presets[0].extensions() + u";txt");
+    app->undo_stack().push(new UndoPresetsChange(app->lists(), app->presets(), presets, "presets"));
+    follow("presets");
+    history_[now_].presets = presets;
+    for (CommandList& list : history_[now_].lists)
+        preset_followers::update(list, presets);
+}
+
 void RandomWalk::edit_parts()
 {
     const auto containers = app->findChildren<ItemPartsContainerWidget*>();
@@ -280,6 +332,7 @@ void RandomWalk::save()
     press("Save");
     saved_ = history_[now_].deep_copy();
     const StoredCommands stored = commands_file::load();
+    EXPECT_TRUE(stored.presets == saved_.presets);
     const std::array<const CommandList*, 2> written{&stored.menu, &stored.library};
     for (const std::size_t at : {0U, 1U})
         EXPECT_TRUE(std::ranges::equal(*written[at], saved_.lists[at], [](const auto& a, const auto& b) {
@@ -291,7 +344,8 @@ void RandomWalk::check(bool with_preview)
 {
     EXPECT_EQ(app->undo_stack().index(), static_cast<int>(now_));
     const Snapshot& model = history_[now_];
-    bool is_saved = true;
+    EXPECT_TRUE(app->presets().working() == model.presets);
+    bool is_saved = model.presets == saved_.presets;
     for (const int at : {0, 1}) {
         const auto index = static_cast<std::size_t>(at);
         EXPECT_TRUE(are_equal(list(at).commands(), model.lists[index])) << "list " << at;

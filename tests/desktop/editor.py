@@ -15,7 +15,10 @@ class PartsEditor:
         self.number = number
 
     def open_pane(self):
-        accessibility.press(accessibility.find(self.program.root, "push button", "View/Edit"))
+        """Which may be open from the session before."""
+        header = accessibility.find(self.program.root, "push button", "View/Edit")
+        if not header.getState().contains(pyatspi.STATE_EXPANDED):
+            accessibility.press(header)
         wait_until(lambda: accessibility.find_all(self.program.root, "list", "Parts of the text"), "the chips")
 
     def _chips(self):

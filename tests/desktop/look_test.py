@@ -87,6 +87,17 @@ class Look(ProgramTest):
         editor.control("combo box", "Date Format:")
         time.sleep(0.5)  # until the sections have their heights
         self.take("editor-" + scheme)
+        self.take_filter(scheme)
+
+    def take_filter(self, scheme):
+        """Pictures of the filter of files, which follows a preset, and of the presets."""
+        accessibility.find(self.program.root, "push button", "Filter").queryComponent().grabFocus()
+        self.desktop.key("space", "Tab", "Down", "Tab", "Home")
+        accessibility.find(self.program.root, "push button", "Manage Presets")
+        time.sleep(0.5)
+        self.take("filter-" + scheme)
+        self.program.press("Manage Presets")
+        self.take_dialog("presets-" + scheme, "^Manage Filter Presets$")
 
     def test_colours(self):
         shown = {"light": "#0080ff", "dark": "#6ba8ff"}

@@ -8,6 +8,7 @@
 #include "ui/sections/vk_item_separator_section.h"
 #include "ui/sections/vk_sort_options_section.h"
 
+#include <QCursor>
 #include <QResizeEvent>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -74,11 +75,15 @@ bool EditingPane::eventFilter(QObject* watched, QEvent* event)
     return QScrollArea::eventFilter(watched, event);
 }
 
-/// As much of the section as there is room for, its end first, but always what has the focus.
+/// Shows what the user works with, and as much around it as there is room for.
 void EditingPane::reveal(const QWidget& section)
 {
-    const QRect area = section.geometry();
-    ensureVisible(area.left(), area.bottom(), 0, 0);
-    if (QWidget* field = focusWidget(); field && section.isAncestorOf(field))
-        ensureWidgetVisible(field, 0, 0);
+    QWidget* area = focusWidget();
+    if (!section.isAncestorOf(area))
+        area = section.childAt(section.mapFromGlobal(QCursor::pos()));
+    if (!area)
+        return;
+    while (area != &section && area->parentWidget()->height() <= viewport()->height())
+        area = area->parentWidget();
+    ensureWidgetVisible(area, 0, 0);
 }
