@@ -185,6 +185,8 @@ void MirvantaApp::take_selection(int command_index, const std::shared_ptr<NewSel
         if (!selected_items_->items().empty())
             exemplar_.set_item(standing_alone(*selected_items_->items().front()));
         if (command_index >= 0) {
+            // What is being typed belongs to the command before.
+            ui_->finish_edits();
             lists_.activate(menu_list());
             awaited_row_ = command_index;
             if (stored_flow_.has_loaded())

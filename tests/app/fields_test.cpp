@@ -1,5 +1,6 @@
 #include "editing_page.h"
 #include "store/commands_file.h"
+#include "support/becomes.h"
 #include "ui/sections/undo_command_changes.h"
 
 namespace {
@@ -133,6 +134,19 @@ TEST_F(Fields, EachIsOneStepThatIsSavedAndTakenBack)
         EXPECT_EQ(commands_file::load().menu.at(0)->to_json(), model.to_json()) << field.step;
         EXPECT_FALSE(button("Save")) << field.step;
     }
+}
+
+TEST_F(Fields, WhatIsTypedBelongsToTheCommandBefore)
+{
+    control<QComboBox>("Files To Text", "Filter type").setCurrentText("Wildcard");
+    auto& field = control<QLineEdit>("Files To Text", "Pattern:");
+    field.setFocus();
+    QTest::keyClicks(&field, "*.a");
+    app->on_context_menu_selected(1, {path_of("a.txt")});
+    EXPECT_TRUE(becomes([&] { return app->menu_list().current_index() == 1; }));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(state(), "menu[One', *More] library[*Two] save");
+    EXPECT_EQ(dynamic_cast<Command&>(*app->menu_list().command_at(0)).file_filter().filter_pattern(), u"*.a");
 }
 
 }

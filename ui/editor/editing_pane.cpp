@@ -8,7 +8,7 @@
 #include "ui/sections/vk_item_separator_section.h"
 #include "ui/sections/vk_sort_options_section.h"
 
-#include <QCursor>
+#include <QApplication>
 #include <QResizeEvent>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -66,22 +66,19 @@ bool EditingPane::eventFilter(QObject* watched, QEvent* event)
     if (section && event->type() == QEvent::Resize) {
         const auto* resize = static_cast<QResizeEvent*>(event);
         const bool has_grown = resize->size().height() > resize->oldSize().height();
-        const bool is_at_work = section->isAncestorOf(focusWidget()) || section->underMouse();
         // Once the scroll bar knows of it.
-        if (has_grown && is_at_work)
+        if (has_grown && section->isAncestorOf(QApplication::focusWidget()))
             QMetaObject::invokeMethod(
                 this, [this, section] { reveal(*section); }, Qt::QueuedConnection);
     }
     return QScrollArea::eventFilter(watched, event);
 }
 
-/// Shows what the user works with, and as much around it as there is room for.
+/// Shows the field that has the focus, and as much around it as there is room for.
 void EditingPane::reveal(const QWidget& section)
 {
-    QWidget* area = focusWidget();
+    QWidget* area = QApplication::focusWidget();
     if (!section.isAncestorOf(area))
-        area = section.childAt(section.mapFromGlobal(QCursor::pos()));
-    if (!area)
         return;
     while (area != &section && area->parentWidget()->height() <= viewport()->height())
         area = area->parentWidget();

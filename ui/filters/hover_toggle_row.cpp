@@ -53,6 +53,7 @@ bool HoverToggleRow::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() != QEvent::MouseButtonPress || static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton)
         return QWidget::eventFilter(watched, event);
+    triangle_->setFocus(Qt::MouseFocusReason);
     emit clicked();
     return true;
 }

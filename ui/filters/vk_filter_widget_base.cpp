@@ -27,6 +27,14 @@ namespace {
 /// In the header; of a longer one the window would show no more.
 constexpr qsizetype longest_value = 300;
 
+QString shortened(const QString& value)
+{
+    if (value.size() <= longest_value)
+        return value;
+    const bool splits_character = value[longest_value].isLowSurrogate();
+    return value.left(longest_value - (splits_character ? 1 : 0)) + QChar(0x2026);
+}
+
 QString type_text(ItemFilter::Mode mode)
 {
     switch (mode) {
@@ -210,7 +218,7 @@ void VKFilterWidgetBase::update_header()
     FilterSummary summary;
     if (mode_ && body_->isHidden()) {
         summary.label = type_->currentText();
-        summary.value = value_of(shown_).left(longest_value);
+        summary.value = shortened(value_of(shown_));
         summary.is_invalid = !shown_.filter.is_pattern_valid();
     }
     header_->set_text(filter_header_text(summary));

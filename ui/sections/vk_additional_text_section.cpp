@@ -40,12 +40,16 @@ VariableSizeTextEdit* VKAdditionalTextSection::add_text(QGridLayout& grid, const
 
 void VKAdditionalTextSection::start_text_changed()
 {
-    push<UndoAdditionalTextChange<AdditionalText::Start>>(start_->stored_text(), tr("Change Start Text"));
+    std::u16string text = start_->stored_text();
+    if (is_at_work() && text != command()->start_text())
+        push<UndoAdditionalTextChange<AdditionalText::Start>>(std::move(text), tr("Change Start Text"));
 }
 
 void VKAdditionalTextSection::end_text_changed()
 {
-    push<UndoAdditionalTextChange<AdditionalText::End>>(end_->stored_text(), tr("Change End Text"));
+    std::u16string text = end_->stored_text();
+    if (is_at_work() && text != command()->end_text())
+        push<UndoAdditionalTextChange<AdditionalText::End>>(std::move(text), tr("Change End Text"));
 }
 
 void VKAdditionalTextSection::no_additional_text_if_one_item_changed(Qt::CheckState state)

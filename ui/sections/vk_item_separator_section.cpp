@@ -18,7 +18,9 @@ VKItemSeparatorSection::VKItemSeparatorSection(CommandLists& lists, QWidget* par
 
 void VKItemSeparatorSection::text_changed()
 {
-    push<UndoItemSeparatorChange>(edit_->stored_text(), tr("Change Separator Text"));
+    std::u16string text = edit_->stored_text();
+    if (is_at_work() && text != command()->separator())
+        push<UndoItemSeparatorChange>(std::move(text), tr("Change Separator Text"));
 }
 
 void VKItemSeparatorSection::load()
