@@ -144,7 +144,7 @@ class Editor(ProgramTest):
         self.program.press("New")
         self.editor.open_pane()
         accessibility.find(self.program.root, "push button", "View/Edit").queryComponent().grabFocus()
-        self.desktop.key("Tab")
+        self.desktop.key("Tab", "Tab")  # past the filter
         self.build_by_keys(CHIPS)
         self.wait_for(SHOWN, self.shown)
         self.build_by_keys(MORE_CHIPS)

@@ -1,4 +1,4 @@
-"""A file filter that follows a preset, and the presets themselves: by mouse and keys, through undo, save and restart."""
+"""A file filter that follows a preset, and the presets themselves: by mouse and keys, through undo, save, restart."""
 
 import json
 import unittest

@@ -1,5 +1,6 @@
-"""How the window says what is stored of a command. The order is that in which a user sets it, for some controls come by
-others: a row has the stored key, the kind of control and its label, and for a combo box the entries by stored values."""
+"""How the window says what is stored of a command. A row has the stored key, the kind of control and its label, and
+where one of several is chosen their labels by stored values. Rows stand in the order of work, for some controls only
+come by others."""
 
 import json
 import re
@@ -49,10 +50,10 @@ PARTS = {
              ("dateFormat", "combo box", "Date Format:", DATES), ("addLeadingZeros", "check box", ZEROS)),
     "property": ("File Property",
                  ("property-name", "property", "Property"),
-                 ("value-type", "choice", None, {"numeric": "Customize Number Format", "datetime": "Customize Date Format",
-                                              "string": "Customize String Format", "size": "Customize Size Format",
-                                              "boolean": "Customize Boolean Format",
-                                              "duration": "Customize Duration Format"}),
+                 ("value-type", "choice", None,
+                  {"numeric": "Customize Number Format", "datetime": "Customize Date Format",
+                   "string": "Customize String Format", "boolean": "Customize Boolean Format",
+                   "size": "Customize Size Format", "duration": "Customize Duration Format"}),
                  ("date-format", "combo box", "Date Format: ", DATES), ("add-leading-zeros", "check box", ZEROS),
                  ("case-type", "combo box", "Case: ", CASES),
                  ("boolean-format", "combo box", "Boolean Format: ",

@@ -4,7 +4,7 @@ what is shipped.
 These are the few that have, together, all kinds of parts and all fields that the gallery uses. ALL_COMMANDS=1 in the
 environment takes all commands, by hand, for that takes ten minutes or more:
 
-    ALL_COMMANDS=1 ctest --preset dev -R desktop.rebuild_test -V --timeout 3600
+    ALL_COMMANDS=1 PROGRAMS=$PWD/build/dev/bin SAMPLES=$PWD/samples /usr/bin/python3 -B tests/desktop/rebuild_test.py
 """
 
 import json
