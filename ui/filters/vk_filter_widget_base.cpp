@@ -82,7 +82,7 @@ VKFilterWidgetBase::VKFilterWidgetBase(CommandLists& lists, std::vector<Mode> mo
     form_->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
     body_->hide();
     add_type_row();
-    update_header();
+    header_->set_text(filter_header_text({}));
     connect(header_, &HoverToggleRow::clicked, this, &VKFilterWidgetBase::toggle);
 }
 
@@ -242,30 +242,39 @@ QString VKFilterWidgetBase::value_of(const Fields& fields) const
     return to_qstring(fields.filter.filter_pattern());
 }
 
-bool VKFilterWidgetBase::is_pending() const
+/// The type whose field holds a pattern that isn't taken over yet.
+std::optional<ItemFilter::Mode> VKFilterWidgetBase::pending() const
 {
-    return mode_ && line_of(*mode_).text() != text_of(*mode_);
+    return mode_ && line_of(*mode_).text() != text_of(*mode_) ? mode_ : std::nullopt;
 }
 
 bool VKFilterWidgetBase::is_typing() const
 {
-    return is_pending() && line_of(*mode_).hasFocus();
+    const std::optional<Mode> mode = pending();
+    return mode && line_of(*mode).hasFocus();
 }
 
 void VKFilterWidgetBase::finish_edit()
 {
-    if (updating_ || !command_ || !is_pending())
+    // The field may be hidden, and so be left, by what follows from a step.
+    if (lists_.steps().is_running()) {
+        leave_command();
         return;
-    set_text_of(*mode_, line_of(*mode_).text());
-    push(make_fields(*mode_), tr("Change Filter Pattern"));
+    }
+    const std::optional<Mode> mode = pending();
+    if (updating_ || !command_ || !mode)
+        return;
+    set_text_of(*mode, line_of(*mode).text());
+    push(make_fields(*mode), tr("Change Filter Pattern"));
 }
 
 void VKFilterWidgetBase::leave_command()
 {
-    if (!command_ || !is_pending())
+    const std::optional<Mode> mode = pending();
+    if (!command_ || !mode)
         return;
-    set_text_of(*mode_, line_of(*mode_).text());
-    push_later(make_fields(*mode_), tr("Change Filter Pattern"));
+    set_text_of(*mode, line_of(*mode).text());
+    push_later(make_fields(*mode), tr("Change Filter Pattern"));
 }
 
 /// The row was changed behind a field that is being edited. A step can't be pushed while another one is running.

@@ -104,7 +104,7 @@ private:
     void show_fault();
     void update_header();
     void toggle();
-    bool is_pending() const;
+    std::optional<Mode> pending() const;
     bool is_typing() const;
     void leave_command();
     void push_later(const Fields& fields, const QString& text);
