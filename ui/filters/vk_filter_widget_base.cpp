@@ -10,9 +10,9 @@
 #include <QComboBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QRadioButton>
 #include <QScopedValueRollback>
@@ -56,14 +56,6 @@ QString bare_extensions(const QString& typed)
             extensions += piece;
     }
     return extensions.join(';');
-}
-
-bool is_undo_or_redo(QEvent& event)
-{
-    if (event.type() != QEvent::ShortcutOverride)
-        return false;
-    const auto& key = static_cast<QKeyEvent&>(event);
-    return key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo);
 }
 
 }

@@ -1,6 +1,7 @@
 #include "ui/presets/filter_presets_dialog.h"
 
 #include "ui/presets/preset_row_widget.h"
+#include "ui/widgets/horizontal_line.h"
 
 #include <QDialogButtonBox>
 #include <QFrame>
@@ -16,14 +17,6 @@
 namespace {
 
 constexpr QSize least_size(500, 300);
-
-QFrame* thin_line()
-{
-    auto* line = new QFrame;
-    line->setFrameShape(QFrame::HLine);
-    line->setFrameShadow(QFrame::Sunken);
-    return line;
-}
 
 }
 
@@ -89,7 +82,7 @@ void FilterPresetsDialog::add_preset()
 PresetRowWidget* FilterPresetsDialog::add_row(const ExtensionsPreset& preset)
 {
     if (rows_->count() != 0)
-        rows_->addWidget(thin_line());
+        rows_->addWidget(make_horizontal_line());
     auto* row = new PresetRowWidget(preset);
     rows_->addWidget(row);
     row->show();

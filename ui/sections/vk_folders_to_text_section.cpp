@@ -4,6 +4,7 @@
 #include "ui/parts/item_parts_container_widget.h"
 #include "ui/sections/undo_command_changes.h"
 #include "ui/widgets/field_manners.h"
+#include "ui/widgets/horizontal_line.h"
 
 #include <QCheckBox>
 #include <QFrame>
@@ -19,14 +20,6 @@ using Type = ItemPartBase::Type;
 
 const std::vector<Type> palette_types{
     Type::Text, Type::Name, Type::Path, Type::Date, Type::AutoNumber, Type::FolderFiles, Type::FolderSubfolders};
-
-QFrame* horizontal_line()
-{
-    auto* line = new QFrame;
-    line->setFrameShape(QFrame::HLine);
-    line->setFrameShadow(QFrame::Sunken);
-    return line;
-}
 
 template <typename Layout>
 Layout* bare_layout(QWidget* panel)
@@ -47,7 +40,7 @@ VKFoldersToTextSection::VKFoldersToTextSection(CommandLists& lists, ExemplarItem
     QVBoxLayout* layout = make_section_layout();
     layout->addWidget(same_as_files_);
     layout->addSpacing(around_line);
-    layout->addWidget(horizontal_line());
+    layout->addWidget(make_horizontal_line());
     layout->addSpacing(around_line);
     layout->addWidget(own_template_ = make_own_template());
     layout->addWidget(added_files_ = make_added_files());

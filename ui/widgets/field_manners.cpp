@@ -34,14 +34,14 @@ private:
     Condition ignored_;
 };
 
-bool is_undo_or_redo(QEvent& event)
+}
+
+bool is_undo_or_redo(const QEvent& event)
 {
     if (event.type() != QEvent::ShortcutOverride && event.type() != QEvent::KeyPress)
         return false;
-    const auto& key = static_cast<QKeyEvent&>(event);
+    const auto& key = static_cast<const QKeyEvent&>(event);
     return key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo);
-}
-
 }
 
 void leave_wheel_to_page(QWidget& field)
