@@ -5,6 +5,7 @@
 #include "engine/commands/vellumark_command.h"
 #include "support/fake_clipboard.h"
 #include "ui/sections/vk_section_widget.h"
+#include "ui/widgets/disclosure_triangle.h"
 #include "ui/widgets/variable_size_text_edit.h"
 
 #include <QCheckBox>
@@ -48,22 +49,10 @@ protected:
         throw std::runtime_error("no control " + name.toStdString());
     }
 
-    /// What is typed replaces the text.
-    void type(const char* section, const QString& name, const QString& text) const
+    void open_filters() const
     {
-        auto& box = control<VariableSizeTextEdit>(section, name);
-        box.setFocus();
-        box.selectAll();
-        QTest::keyClicks(&box, text);
-    }
-
-    void commit(const char* section, const QString& name, const QString& text) const
-    {
-        auto& field = control<QLineEdit>(section, name);
-        field.setFocus();
-        field.selectAll();
-        field.insert(text);
-        QTest::keyClick(&field, Qt::Key_Return);
+        for (DisclosureTriangle* each : app->findChildren<DisclosureTriangle*>())
+            each->activate();
     }
 
     FakeClipboard clipboard;

@@ -44,8 +44,7 @@ protected:
 
 TEST_F(Pane, TabFollowsThePage)
 {
-    for (DisclosureTriangle* each : app->findChildren<DisclosureTriangle*>())
-        each->activate();
+    open_filters();
     control<QCheckBox>("Folders To Text", "Add Files From Folders").click();
     for (int twice = 0; twice < 2; ++twice) {
         control<QCheckBox>("Folders To Text", "Same As Files").click();
@@ -92,8 +91,7 @@ TEST_F(Pane, ScrollsByTheWheelAndWithTheSectionAtWork)
 
     command().set_file_filter_enabled(true);
     app->current_editor()->refresh();
-    for (DisclosureTriangle* each : app->findChildren<DisclosureTriangle*>())
-        each->activate();
+    open_filters();
     press("New");
     app->findChild<CommandsListWidget*>()->view().setFocus();
     QTest::qWait(300);

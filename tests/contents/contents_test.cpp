@@ -1,13 +1,13 @@
 #include "sample_home.h"
 
 #include "engine/items/mv_items_set.h"
-#include "engine/parts/item_progress_sink.h"
 #include "engine/text/utf.h"
 #include "platform/paths.h"
 #include "store/commands_file.h"
 #include "store/gallery_file.h"
 #include "store/json_file_reader.h"
 #include "store/mv_config.h"
+#include "support/never_cancelled.h"
 #include "support/scoped_variable.h"
 
 #include <gtest/gtest.h>
@@ -22,16 +22,6 @@
 namespace json = boost::json;
 
 namespace {
-
-class NeverCancelled : public ItemProgressSink
-{
-public:
-    bool is_cancelled() override { return false; }
-
-    void report_item(std::u16string_view) override {}
-
-    void report_status(std::u16string_view) override {}
-};
 
 /// The files that ship, as the program reads them.
 class Contents : public testing::Test
