@@ -9,14 +9,11 @@
 #include "ui/editor/command_main_widget_base.h"
 #include "ui/editor/vellumark_controller.h"
 #include "ui/preview/wait_for_text_dlg.h"
-#include "ui/widgets/disclosure_header.h"
 
 #include <QApplication>
 #include <QPlainTextEdit>
 #include <QPointer>
-#include <QScrollArea>
 #include <QSignalSpy>
-#include <QSplitter>
 #include <QTest>
 #include <QTimer>
 
@@ -305,24 +302,4 @@ TEST_F(EditorTest, PreviewFollowsTheCommandAndTheSelection)
     EXPECT_TRUE(shows("[a.txt"));
     app->on_context_menu_selected(-1, {path_of("b.txt")});
     EXPECT_TRUE(shows("[b.txt"));
-}
-
-TEST_F(EditorTest, EditingPaneOpensAndKeepsItsHeight)
-{
-    const auto pane = [this] { return editor().main_widget()->findChild<QScrollArea*>(); };
-    const auto splitter = [this] { return editor().main_widget()->findChild<QSplitter*>(); };
-    open_with({path_of("a.txt")});
-    EXPECT_FALSE(pane()->isVisible());
-    QTest::mouseClick(editor().main_widget()->findChild<DisclosureHeader*>(), Qt::LeftButton);
-    EXPECT_TRUE(pane()->isVisible());
-    editor().set_expanded(false);
-    EXPECT_FALSE(pane()->isVisible());
-    editor().set_expanded(true);
-    EXPECT_TRUE(pane()->isVisible());
-    splitter()->setSizes({123, 300});
-    const int height = splitter()->sizes()[0];
-    press("Cancel");
-    open_with({path_of("a.txt")});
-    editor().set_expanded(true);
-    EXPECT_TRUE(becomes([&] { return splitter()->sizes()[0] == height; }));
 }

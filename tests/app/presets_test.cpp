@@ -4,7 +4,6 @@
 #include "ui/presets/filter_presets_dialog.h"
 
 #include <QLineEdit>
-#include <QPointer>
 #include <QTest>
 
 namespace {
@@ -37,15 +36,14 @@ protected:
         return state() + filter(app->menu_list().command_at(0)) + filter(app->library_list().command_at(0));
     }
 
-    FilterPresetsDialog* dialog() const { return app->findChild<FilterPresetsDialog*>(); }
+    FilterPresetsDialog& dialog() const { return *app->findChild<FilterPresetsDialog*>(); }
 
-    QLineEdit* field(int place) const { return dialog()->findChildren<QLineEdit*>()[place]; }
+    void edit(int place, const QString& text) const { dialog().findChildren<QLineEdit*>()[place]->setText(text); }
 
     void accept() const
     {
-        const QPointer<FilterPresetsDialog> open = dialog();
-        open->accept();
-        EXPECT_TRUE(becomes([&] { return open.isNull(); }));
+        dialog().accept();
+        EXPECT_TRUE(becomes([&] { return !app->findChild<FilterPresetsDialog*>(); }));
     }
 };
 
@@ -61,9 +59,9 @@ TEST_F(PresetsTest, CommandsFollowThemByStepsOfUndo)
     EXPECT_EQ(app->undo_stack().count(), 0) << "nothing was changed";
 
     app->manage_presets();
-    field(0)->setText("Renamed");
-    field(1)->setText("X; y");
-    for (auto* button : dialog()->findChildren<QPushButton*>())
+    edit(0, "Renamed");
+    edit(1, "X; y");
+    for (auto* button : dialog().findChildren<QPushButton*>())
         if (button->accessibleName() == "Delete preset Two")
             button->click();
     accept();
@@ -102,7 +100,7 @@ TEST_F(PresetsTest, NeitherSideIsLostWhileTheyAreEdited)
 {
     open();
     app->manage_presets();
-    field(0)->setText("Mine");
+    edit(0, "Mine");
     Presets::List theirs = app->presets().working();
     theirs.pop_back();
     theirs.emplace_back().name = u"Theirs";

@@ -14,11 +14,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QSignalSpy>
 #include <QTest>
-#include <QTextDocumentFragment>
-
-#include <sstream>
 
 namespace {
 
@@ -45,16 +41,19 @@ protected:
         folder.move(0, 300);
         other.setParent(&page);
         QObject::connect(&app.steps(), &UndoSteps::ended, &page, [this] { show_current(); });
-        open(R"({"name":"C","separator":"","fileParts":[]})");
+        open("");
         for (QWidget* child : page.findChildren<QWidget*>())
             if (child->accessibleName() == "Filter")
                 QTest::keyClick(child, Qt::Key_Space);
     }
 
-    void open(const std::string& json)
+    /// Two commands, of which the first has these fields and shows.
+    void open(const std::string& fields)
     {
-        const auto first = std::make_shared<VellumarkCommand>(boost::json::parse(json).as_object());
-        app.menu.model().set_saved_commands({first, std::make_shared<VellumarkCommand>(u"D")});
+        const auto json = boost::json::parse(R"({"name":"C","separator":"","fileParts":[])" + fields + "}");
+        app.stack.clear();
+        app.menu.model().set_saved_commands(
+            {std::make_shared<VellumarkCommand>(json.as_object()), std::make_shared<VellumarkCommand>(u"D")});
         app.menu.select_without_undo(0);
         show_current();
         page.show();
@@ -64,17 +63,20 @@ protected:
 
     void show_current()
     {
-        const auto shown = std::dynamic_pointer_cast<VellumarkCommand>(app.menu.current_command());
+        const auto shown = command(app.menu.current_index());
         file.show_command(shown);
         folder.show_command(shown);
     }
 
-    VellumarkCommand& command(int row = 0) { return dynamic_cast<VellumarkCommand&>(*app.menu.command_at(row)); }
+    std::shared_ptr<VellumarkCommand> command(int row = 0) const
+    {
+        return std::dynamic_pointer_cast<VellumarkCommand>(app.menu.command_at(row));
+    }
 
     /// Such as "on wildcard exclude *.txt 1": the uuid last.
-    std::string stored(int row = 0)
+    std::string stored() const
     {
-        const auto fields = command_fields::file_filter(command(row));
+        const auto fields = command_fields::file_filter(*command());
         const auto json = fields.filter.to_json();
         return std::string(fields.is_enabled ? "on " : "off ") + json.at("filterMode").as_string().c_str() + " " +
                json.at("filterAction").as_string().c_str() + " " + json.at("filterPattern").as_string().c_str() +
@@ -114,19 +116,24 @@ protected:
                 combo->setCurrentIndex(combo->findText(entry));
     }
 
-    /// "type X", "preset X", "write X" leaves X in the field, "typing X" stays in it; "exclude", "undo", "redo".
-    void act(const std::string& what)
+    /// "type X", "preset X", "write X" leaves X in the field, "typing X" stays in it; "presets X" gives the first one
+    /// other extensions, or deletes it.
+    void act(const QString& what)
     {
-        const QString verb = QString::fromStdString(what).section(' ', 0, 0);
-        const QString rest = QString::fromStdString(what).section(' ', 1);
+        const QString verb = what.section(' ', 0, 0);
+        const QString rest = what.section(' ', 1);
         if (verb == "type" || verb == "preset")
             choose(file, verb == "type" ? "Filter type" : "Preset:", rest);
-        else if (verb == "undo")
-            app.stack.undo();
-        else if (verb == "redo")
-            app.stack.redo();
         else if (verb == "exclude")
             file.findChildren<QRadioButton*>().back()->click();
+        else if (verb == "key")
+            QTest::keySequence(&line(file), QKeySequence::Undo);
+        else if (verb == "beside")
+            app.stack.push(new UndoItemSeparatorChange(app.lists(), command(), u"-", "Beside"));
+        else if (verb == "leave")
+            app.menu.select(1);
+        else if (verb == "presets")
+            change_presets(rest);
         else {
             line(file).setFocus();
             QTest::keySequence(&line(file), QKeySequence::SelectAll);
@@ -134,6 +141,15 @@ protected:
             if (verb == "write")
                 QTest::keyClick(&line(file), Qt::Key_Return);
         }
+        QCoreApplication::processEvents();
+    }
+
+    void change_presets(const QString& extensions)
+    {
+        Presets::List changed{preset(u"2", u"Two", u"c")};
+        if (!extensions.isEmpty())
+            changed.push_back(preset(u"1", u"<b>New", from_qstring(extensions)));
+        app.stack.push(new UndoPresetsChange(app.lists(), app.presets(), changed, "Presets"));
     }
 
     FakeApp app;
@@ -168,15 +184,20 @@ TEST_F(Filters, WriteWhatTheUserDoesAndShowWhatIsStored)
         {"type Wildcard, exclude, type None", "off extensions include ", "<None> ", "Change Filter Type"},
         {"type Wildcard, exclude, type Extensions, type Regex", "on regex exclude ", "<Regex> [] Exclude ",
          "Change Filter Type"},
-        {"type Wildcard, write x, undo, undo, redo, redo", "on wildcard include x", "<Wildcard> [x] Include ",
+        {"type Wildcard, typing *.a, beside", "on wildcard include ", "<Wildcard> [*.a] Include ", "Beside"},
+        {"type Wildcard, typing *.a, key", "on wildcard include *.a", "<Wildcard> [*.a] Include ",
          "Change Filter Pattern"},
+        {"type Wildcard, typing *.a, leave", "on wildcard include *.a", "<Wildcard> [*.a] Include ",
+         "Change Filter Pattern"},
+        {"type Extensions, preset One, presets x;y", "on extensions include x;y 1", "<Extensions> <<b>New> [x; y]- ",
+         "Presets"},
+        {"type Extensions, preset One, presets", "on extensions include a;b", "<Extensions> <Custom> [a; b] ",
+         "Presets"},
     };
     for (const Case& c : cases) {
-        app.stack.clear();
-        open(R"({"name":"C","separator":"","fileParts":[]})");
-        const QStringList acts = QString(c.acts).split(", ");
-        for (const QString& what : acts)
-            act(what.toStdString());
+        open("");
+        for (const QString& what : QString(c.acts).split(", "))
+            act(what);
         EXPECT_EQ(stored(), c.stored) << c.acts;
         EXPECT_EQ(seen(file), c.seen) << c.acts;
         EXPECT_EQ(app.stack.undoText().toStdString(), c.step) << c.acts;
@@ -195,18 +216,18 @@ TEST_F(Filters, ShowWhateverIsStored)
     };
 
     const Case cases[] = {
-        {R"("fileFilterEnabled":true,"folderFilterEnabled":true)", "<Extensions> <Custom> [] ", "<None> "},
-        {R"("fileFilterEnabled":true,"fileFilter":{"filterMode":"odd","filterPattern":"c","fileFilterPresetUuid":"9"},
+        {R"(,"fileFilterEnabled":true,"folderFilterEnabled":true)", "<Extensions> <Custom> [] ", "<None> "},
+        {R"(,"fileFilterEnabled":true,"fileFilter":{"filterMode":"odd","filterPattern":"c","fileFilterPresetUuid":"9"},
             "folderFilterEnabled":true,"folderFilter":{"filterPattern":"x"})",
          "<Extensions> <Custom> [c] ", "<> "},
-        {R"("fileFilterEnabled":true,"fileFilter":{"filterPattern":"c","fileFilterPresetUuid":"3"},
+        {R"(,"fileFilterEnabled":true,"fileFilter":{"filterPattern":"c","fileFilterPresetUuid":"3"},
             "folderFilterEnabled":true,"folderFilter":{"filterMode":"regex","filterAction":"exclude"})",
          "<Extensions> <One> [d]- ", "<Regex> [] Exclude "},
-        {R"("fileFilterEnabled":false,"fileFilter":{"filterMode":"wildcard","filterPattern":"c"})", "<None> ",
+        {R"(,"fileFilterEnabled":false,"fileFilter":{"filterMode":"wildcard","filterPattern":"c"})", "<None> ",
          "<None> "},
     };
     for (const Case& c : cases) {
-        open(std::string(R"({"name":"C","separator":"","fileParts":[],)") + c.json + "}");
+        open(c.json);
         EXPECT_EQ(seen(file), c.seen) << c.json;
         EXPECT_EQ(seen(folder), c.folder) << c.json;
         EXPECT_EQ(app.stack.count(), 0) << c.json;
@@ -215,53 +236,17 @@ TEST_F(Filters, ShowWhateverIsStored)
     EXPECT_EQ(stored(), "on wildcard include c") << "what was off is there again";
 }
 
-TEST_F(Filters, WhatIsTypedGoesToItsCommandOnce)
-{
-    act("type Wildcard");
-    act("typing *.a");
-    app.lists().steps().stack().push(new UndoItemSeparatorChange(
-        app.lists(), std::dynamic_pointer_cast<VellumarkCommand>(app.menu.command_at(0)), u"-", {}));
-    EXPECT_EQ(seen(file), "<Wildcard> [*.a] Include ") << "a change beside it leaves it alone";
-    QTest::keySequence(&line(file), QKeySequence::Undo);
-    EXPECT_EQ(stored(), "on wildcard include *.a") << "for undo, which the window has, to take back";
-    act("typing *.b");
-    app.menu.select(1);
-    EXPECT_EQ(seen(file), "<None> ");
-    QCoreApplication::processEvents();
-    EXPECT_EQ(stored(0) + ", " + stored(1), "on wildcard include *.b, off extensions include ");
-}
-
-TEST_F(Filters, PresetsReachTheFilterAndComeBack)
-{
-    act("type Extensions");
-    act("preset One");
-    Presets::List changed{preset(u"2", u"Two", u"c"), preset(u"1", u"<b>New", u"x;y")};
-    const auto push = [&] {
-        app.stack.push(new UndoPresetsChange(app.lists(), app.presets(), changed, "Change"));
-        return stored() + " " + seen(file);
-    };
-    EXPECT_EQ(push(), "on extensions include x;y 1 <Extensions> <<b>New> [x; y]- ");
-    changed.pop_back();
-    EXPECT_EQ(push(), "on extensions include x;y <Extensions> <Custom> [x; y] ");
-    app.stack.undo();
-    app.stack.undo();
-    EXPECT_EQ(stored() + " " + seen(file), "on extensions include a;b 1 <Extensions> <One> [a; b]- ");
-}
-
 TEST(FilterHeader, TellsTheFilterInOneLine)
 {
-    const std::tuple<FilterSummary, const char*, const char*> cases[] = {
-        {{}, "Filter", "Filter"},
-        {{"Regex", "a<b", false}, "Filter &mdash; <i>Regex</i>: <b>a&lt;b</b>", "Filter \u2014 Regex: a<b"},
+    const std::pair<FilterSummary, const char*> cases[] = {
+        {{}, "Filter"},
+        {{"Regex", "a<b", false}, "Filter &mdash; <i>Regex</i>: <b>a&lt;b</b>"},
         {{"Regex", "(", true},
          "Filter &mdash; <i>Regex</i>: <b style=\"color:red\">(</b> &nbsp;<span "
-         "style=\"color:red\"><b>Invalid</b></span>",
-         "Filter \u2014 Regex: ( Invalid"},
+         "style=\"color:red\"><b>Invalid</b></span>"},
     };
-    for (const auto& [summary, html, plain] : cases) {
+    for (const auto& [summary, html] : cases)
         EXPECT_EQ(filter_header_text(summary).toStdString(), html);
-        EXPECT_EQ(QTextDocumentFragment::fromHtml(html).toPlainText().simplified().toStdString(), plain);
-    }
     EXPECT_EQ(fault_of(ItemFilter::Mode::Regex, "ab(").place.toStdString(), "At character 3");
     EXPECT_EQ(fault_of(ItemFilter::Mode::Wildcard, "a\nb").message.toStdString(),
               "Invalid filename characters: \u240A");
@@ -273,40 +258,32 @@ TEST(FilterPresetsDialog, EditsACopyByKeyboard)
     dialog.show();
     dialog.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
-    const auto enabled = [&](const char* name) {
-        for (const auto* button : dialog.findChildren<QPushButton*>())
-            if (button->text().remove('&') == name)
-                return button->isEnabled();
-        return false;
-    };
     const auto listed = [&] {
         std::string text;
         for (const ExtensionsPreset& one : dialog.presets())
             text += "[" + to_qstring(one.name + u"=" + one.extensions()).toStdString() + "]";
-        return text + (enabled("Add") ? " Add" : "") + (enabled("OK") ? " OK" : "");
+        for (const auto* button : dialog.findChildren<QPushButton*>())
+            if (button->isEnabled() && (button->text().contains("Add") || button->text().contains("OK")))
+                text += " " + button->text().remove('&').toStdString();
+        return text;
     };
-    const auto type = [&](const QString& text) { QTest::keyClicks(dialog.focusWidget(), text); };
-    const auto press = [&](Qt::Key key) { QTest::keyClick(dialog.focusWidget(), key); };
     EXPECT_EQ(listed(), "[One=a;b][=c] Add OK");
     dialog.add_preset();
-    type("New");
-    EXPECT_EQ(listed(), "[One=a;b][=c][New=] OK");
-    press(Qt::Key_Return);
-    type(".JPG; P*");
-    EXPECT_EQ(listed(), "[One=a;b][=c][New=.jpg;p*] Add");
-    press(Qt::Key_Backspace);
-    press(Qt::Key_Return);
-    EXPECT_EQ(listed(), "[One=a;b][=c][New=.jpg;p] Add OK");
+    const std::tuple<std::vector<Qt::Key>, const char*, const char*> cases[] = {
+        {{}, "New", "[One=a;b][=c][New=] OK"},
+        {{Qt::Key_Return}, ".JPG; P*", "[One=a;b][=c][New=.jpg;p*] Add"},
+        {{Qt::Key_Backspace, Qt::Key_Return}, "", "[One=a;b][=c][New=.jpg;p] Add OK"},
+        {{Qt::Key_Tab, Qt::Key_Return}, "", "[One=a;b][=c] Add OK"},
+        {{Qt::Key_Space, Qt::Key_Space}, "", " Add OK"},
+        {{Qt::Key_Return}, "", "[=] OK"},
+    };
+    for (const auto& [keys, typed, expected] : cases) {
+        for (const Qt::Key key : keys)
+            QTest::keyClick(dialog.focusWidget(), key);
+        QTest::keyClicks(dialog.focusWidget(), typed);
+        EXPECT_EQ(listed(), expected);
+    }
     EXPECT_TRUE(dialog.isVisible());
-    press(Qt::Key_Tab);
-    EXPECT_EQ(dialog.focusWidget()->accessibleName(), "Delete preset New");
-    press(Qt::Key_Return);
-    EXPECT_EQ(dialog.focusWidget()->accessibleName(), "Delete preset ");
-    press(Qt::Key_Space);
-    press(Qt::Key_Space);
-    EXPECT_EQ(listed(), " Add OK");
-    press(Qt::Key_Return);
-    EXPECT_EQ(listed(), "[=] OK");
 }
 
 }
