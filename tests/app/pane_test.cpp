@@ -134,6 +134,7 @@ TEST_F(Pane, ComesBackAsItWasLeft)
     for (const bool open : {true, false, true}) {
         if (pane().isVisible() != open)
             QTest::mouseClick(app->current_editor()->main_widget()->findChild<DisclosureHeader*>(), Qt::LeftButton);
+        EXPECT_EQ(pane().isVisible(), open);
         app->reject();
         app.reset();
         app = std::make_unique<MirvantaApp>(editors_with(clipboard));
@@ -144,18 +145,32 @@ TEST_F(Pane, ComesBackAsItWasLeft)
     EXPECT_TRUE(becomes([&] { return pane().height() == height; })) << pane().height() << " " << height;
 }
 
-TEST_F(Pane, WhatIsTypedBelongsToTheCommandBeforeASelection)
+TEST_F(Pane, WhatIsTypedBelongsToTheCommandBefore)
 {
-    control<QComboBox>("Files To Text", "Filter type").setCurrentText("Wildcard");
-    auto& field = control<QLineEdit>("Files To Text", "Pattern:");
-    field.setFocus();
-    QTest::keyClicks(&field, "*.a");
+    const auto type = [&](const char* text) {
+        control<QComboBox>("Files To Text", "Filter type").setCurrentText("Wildcard");
+        auto& field = control<QLineEdit>("Files To Text", "Pattern:");
+        field.setFocus();
+        QTest::keyClicks(&field, text);
+    };
+    const auto steps = [&] {
+        std::string texts;
+        for (int step = 0; step < app->undo_stack().count(); ++step)
+            texts += app->undo_stack().text(step).remove("Change Filter ").toStdString() + " ";
+        return texts;
+    };
+    open_filters();
+    type("*.a");
+    app->menu_list().select(1);
+    EXPECT_TRUE(becomes([&] { return steps() == "Type Select Stored Command Pattern "; })) << steps();
+    type("b");
     app->on_context_menu_selected(1, {path_of("a.txt")});
-    EXPECT_TRUE(becomes([&] { return app->undo_stack().count() == 3; }));
-    QCoreApplication::processEvents();
+    EXPECT_TRUE(becomes([&] {
+        return steps() == "Type Select Stored Command Pattern Pattern Select Stored Command ";
+    })) << steps();
     EXPECT_EQ(state(), "menu[One', *More] library[*Two] save");
     EXPECT_EQ(dynamic_cast<VellumarkCommand&>(*app->menu_list().command_at(0)).file_filter().filter_pattern(),
-              u"*.a");
+              u"*.ab");
 }
 
 }

@@ -128,8 +128,6 @@ protected:
             file.findChildren<QRadioButton*>().back()->click();
         else if (verb == "key")
             QTest::keySequence(&line(file), QKeySequence::Undo);
-        else if (verb == "beside")
-            app.stack.push(new UndoItemSeparatorChange(app.lists(), command(), u"-", "Beside"));
         else if (verb == "leave")
             app.menu.select(1);
         else if (verb == "presets")
@@ -184,7 +182,7 @@ TEST_F(Filters, WriteWhatTheUserDoesAndShowWhatIsStored)
         {"type Wildcard, exclude, type None", "off extensions include ", "<None> ", "Change Filter Type"},
         {"type Wildcard, exclude, type Extensions, type Regex", "on regex exclude ", "<Regex> [] Exclude ",
          "Change Filter Type"},
-        {"type Wildcard, typing *.a, beside", "on wildcard include ", "<Wildcard> [*.a] Include ", "Beside"},
+        {"type Wildcard, typing *.a, presets", "on wildcard include ", "<Wildcard> [*.a] Include ", "Presets"},
         {"type Wildcard, typing *.a, key", "on wildcard include *.a", "<Wildcard> [*.a] Include ",
          "Change Filter Pattern"},
         {"type Wildcard, typing *.a, leave", "on wildcard include *.a", "<Wildcard> [*.a] Include ",
