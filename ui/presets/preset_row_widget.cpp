@@ -96,10 +96,6 @@ void PresetRowWidget::set_name_editable(bool editable)
     name_->setReadOnly(!editable);
     name_->setFrame(editable);
     name_->setCursor(editable ? Qt::IBeamCursor : Qt::PointingHandCursor);
-    QPalette colours;
-    if (!editable)
-        colours.setColor(QPalette::Base, Qt::transparent);
-    name_->setPalette(colours);
 }
 
 /// Screen readers tell by the name which preset a control is of.
