@@ -31,7 +31,7 @@ VKFileFilterWidget::VKFileFilterWidget(CommandLists& lists, Presets& presets, QW
 
 void VKFileFilterWidget::add_preset_row()
 {
-    constexpr int shortest_name = 12;
+    constexpr int shortest_name = 2;
     auto* label = new QLabel(tr("Preset:"));
     label->setBuddy(preset_);
     preset_->setAccessibleName(tr("Preset:"));
@@ -41,6 +41,8 @@ void VKFileFilterWidget::add_preset_row()
     preset_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     leave_wheel_to_page(*preset_);
     manage_->setAutoDefault(false);
+    // It is whole in the narrowest window as well.
+    manage_->setStyleSheet(QStringLiteral("padding: 6px 8px;"));
     auto* row = new QHBoxLayout(preset_row_);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(preset_, 1);

@@ -70,6 +70,7 @@ VKFilterWidgetBase::VKFilterWidgetBase(CommandLists& lists, std::vector<Mode> mo
     layout->setSpacing(0);
     layout->addWidget(header_);
     layout->addWidget(body_);
+    form_->setRowWrapPolicy(QFormLayout::WrapLongRows);
     form_->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     form_->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
     body_->hide();
