@@ -105,7 +105,7 @@ std::optional<std::size_t> ItemFilter::error_offset() const
 
 bool ItemFilter::is_pattern_valid() const
 {
-    return invalid_characters().empty() && !error_offset();
+    return mode_ == Mode::Regex ? pattern_.empty() || expression().is_valid() : invalid_characters().empty();
 }
 
 bool ItemFilter::operator==(const ItemFilter& other) const

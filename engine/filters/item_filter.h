@@ -54,8 +54,8 @@ public:
     /// regular expression.
     std::u16string invalid_characters() const;
 
-    /// Where a regular expression goes wrong, in UTF-16 units from its begin; 0 when it is too large as a whole.
-    /// Empty for a valid one and in the other modes.
+    /// Where a regular expression goes wrong, in UTF-16 units from its begin. Empty when it is too large as a whole,
+    /// for a valid one and in the other modes.
     std::optional<std::size_t> error_offset() const;
 
     /// Mode, action and pattern.

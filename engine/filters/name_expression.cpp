@@ -80,8 +80,6 @@ NameExpression::NameExpression(std::u16string_view pattern)
         const LibraryPattern translated = from_ecmascript(pattern);
         if (auto code = compile(translated))
             compiled_ = std::make_unique<const Compiled>(Compiled{std::move(code), limits_for(translated)});
-        else
-            error_offset_ = 0;
     } catch (const PatternError& error) {
         error_offset_ = error.at();
     }

@@ -30,9 +30,10 @@ PatternFault fault_of(const ItemFilter& filter)
             is_list ? Texts::tr("Invalid characters for extensions: ") : Texts::tr("Invalid filename characters: ");
         return {reason + visible(characters), {}};
     }
-    if (const auto offset = filter.error_offset())
-        return {Texts::tr("Invalid regex"), Texts::tr("At character %1").arg(*offset + 1)};
-    return {};
+    if (filter.is_pattern_valid())
+        return {};
+    const auto offset = filter.error_offset();
+    return {Texts::tr("Invalid regex"), offset ? Texts::tr("At character %1").arg(*offset + 1) : QString()};
 }
 
 PatternFault fault_of(ItemFilter::Mode mode, const QString& text)
