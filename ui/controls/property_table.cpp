@@ -68,7 +68,7 @@ PropertyTable::PropertyTable(QWidget* parent) : QTableWidget(0, ColumnCount, par
 
     hint_->setAlignment(Qt::AlignCenter);
     (new QVBoxLayout(viewport()))->addWidget(hint_);
-    connect(this, &QTableWidget::itemSelectionChanged, this, &PropertyTable::tell_choice);
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &PropertyTable::tell_choice);
 }
 
 void PropertyTable::fill(std::vector<ExemplarProperty> properties)
@@ -130,7 +130,7 @@ bool PropertyTable::choose(const QString& canonical_name)
     const QScopedValueRollback guard(quiet_, true);
     for (int row = 0; row < rowCount(); ++row)
         if (name_at(row) == canonical_name) {
-            if (!selectionModel()->isRowSelected(row))
+            if (selectionModel()->selectedRows().size() != 1 || !selectionModel()->isRowSelected(row))
                 setCurrentCell(row, NameColumn);
             return true;
         }
@@ -138,12 +138,14 @@ bool PropertyTable::choose(const QString& canonical_name)
     return false;
 }
 
-void PropertyTable::tell_choice()
+void PropertyTable::tell_choice(const QItemSelection& selected)
 {
     if (quiet_)
         return;
-    const QModelIndexList rows = selectionModel()->selectedRows();
-    emit chosen(rows.isEmpty() ? QString() : name_at(rows.front().row()));
+    const QString name = selected.isEmpty() ? QString() : name_at(selected.front().top());
+    // A screen reader adds its row to the one that is chosen again when it clears the choice.
+    choose(name);
+    emit chosen(name);
 }
 
 QSize PropertyTable::sizeHint() const

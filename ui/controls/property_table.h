@@ -42,7 +42,7 @@ private:
     QString name_at(int row) const;
     void put_row(int row, const ExemplarProperty& property);
     void show_hint();
-    void tell_choice();
+    void tell_choice(const QItemSelection& selected);
 
     ElidedLabel* hint_;
     bool quiet_ = false; ///< what changes now isn't the user's doing
