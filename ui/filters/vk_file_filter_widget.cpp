@@ -1,5 +1,6 @@
 #include "ui/filters/vk_file_filter_widget.h"
 
+#include "ui/filters/extensions_text.h"
 #include "ui/presets/presets.h"
 #include "ui/text.h"
 #include "ui/widgets/field_manners.h"
@@ -112,11 +113,8 @@ void VKFileFilterWidget::take(const Fields& fields, bool is_other)
     if (is_other || has_extensions)
         preset_uuid_ = has_extensions ? fields.preset_uuid : std::u16string();
     const ExtensionsPreset* followed = preset();
-    if (followed) {
-        ItemFilter list;
-        list.set_filter_pattern(followed->extensions());
-        set_text_of(Mode::Extensions, shown_pattern(list));
-    }
+    if (followed)
+        set_text_of(Mode::Extensions, shown_extensions(followed->extensions()));
     const QSignalBlocker blocker(preset_);
     preset_->setCurrentIndex(followed ? static_cast<int>(followed - presets_.working().data())
                                       : preset_->count() - 1);

@@ -1,6 +1,7 @@
 #include "ui/filters/vk_filter_widget_base.h"
 
 #include "ui/colours.h"
+#include "ui/filters/extensions_text.h"
 #include "ui/filters/filter_header_text.h"
 #include "ui/filters/hover_toggle_row.h"
 #include "ui/text.h"
@@ -45,17 +46,10 @@ QString type_text(ItemFilter::Mode mode)
     return {};
 }
 
-/// Of extensions as they are typed: without the dots and blanks around them, and without empty ones.
-QString bare_extensions(const QString& typed)
+QString shown_pattern(const ItemFilter& filter)
 {
-    QStringList extensions;
-    for (QString piece : typed.split(';')) {
-        piece = piece.trimmed();
-        piece.remove(0, std::ranges::find_if(piece, [](QChar unit) { return unit != '.'; }) - piece.begin());
-        if (!piece.isEmpty())
-            extensions += piece;
-    }
-    return extensions.join(';');
+    const std::u16string& pattern = filter.filter_pattern();
+    return filter.filter_mode() == ItemFilter::Mode::Extensions ? shown_extensions(pattern) : to_qstring(pattern);
 }
 
 }
@@ -224,12 +218,6 @@ void VKFilterWidgetBase::toggle()
     update_header();
 }
 
-QString VKFilterWidgetBase::shown_pattern(const ItemFilter& filter)
-{
-    QString text = to_qstring(filter.filter_pattern());
-    return filter.filter_mode() == Mode::Extensions ? text.replace(';', QLatin1StringView("; ")) : text;
-}
-
 QString VKFilterWidgetBase::value_of(const Fields& fields) const
 {
     return to_qstring(fields.filter.filter_pattern());
@@ -295,7 +283,7 @@ VKFilterWidgetBase::Fields VKFilterWidgetBase::make_fields(Mode mode) const
     Fields fields{true, {}};
     const QString& text = text_of(mode);
     fields.filter.set_filter_mode(mode);
-    fields.filter.set_filter_pattern(from_qstring(mode == Mode::Extensions ? bare_extensions(text) : text));
+    fields.filter.set_filter_pattern(mode == Mode::Extensions ? bare_extensions(text) : from_qstring(text));
     if (mode != Mode::Extensions && exclude_->isChecked())
         fields.filter.set_filter_action(ItemFilter::Action::Exclude);
     return fields;

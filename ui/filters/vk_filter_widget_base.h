@@ -73,9 +73,6 @@ protected:
 
     void set_text_of(Mode mode, const QString& text) { texts_[static_cast<std::size_t>(mode)] = text; }
 
-    /// As it stands in a field.
-    static QString shown_pattern(const ItemFilter& filter);
-
     /// Takes what the derived class shows beside type, pattern and action. `is_other`: so is the command.
     virtual void take(const Fields& /*fields*/, bool /*is_other*/) {}
 

@@ -1,5 +1,6 @@
 #include "ui/presets/preset_row_widget.h"
 
+#include "ui/filters/extensions_text.h"
 #include "ui/filters/pattern_fault.h"
 #include "ui/text.h"
 #include "ui/widgets/field_manners.h"
@@ -24,7 +25,7 @@ PresetRowWidget::PresetRowWidget(const ExtensionsPreset& preset, QWidget* parent
     name_->setCursorPosition(0);
     name_->installEventFilter(this);
     extensions_->setPlaceholderText(tr("e.g. jpg; png; gif"));
-    extensions_->setText(to_qstring(preset.extensions()).replace(';', QLatin1StringView("; ")));
+    extensions_->setText(shown_extensions(preset.extensions()));
     extensions_->setCursorPosition(0);
     delete_->setToolTip(tr("Delete preset"));
     delete_->setFixedWidth(delete_->sizeHint().height());
