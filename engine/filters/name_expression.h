@@ -19,8 +19,8 @@ public:
     /// False when the pattern could not be compiled.
     bool is_valid() const { return compiled_ != nullptr; }
 
-    /// Where an invalid pattern goes wrong, in UTF-16 units from its begin. Empty when it is too large as a whole, and
-    /// for a valid one.
+    /// Where an invalid pattern goes wrong, in UTF-16 units from its begin. Empty when it is too large as a whole,
+    /// and for a valid one.
     std::optional<std::size_t> error_offset() const { return error_offset_; }
 
     /// False for an invalid expression, and when the search gives up because it would take too long, which depends on
